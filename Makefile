@@ -1,0 +1,41 @@
+# Convenience targets; everything is CMake + Ninja underneath.
+BUILD   ?= build
+ASAN    ?= build-asan
+JOBS    ?= $(shell nproc)
+CMAKE_FLAGS ?=
+
+.PHONY: all build demo test test-asan bench fuzz install clean
+
+all: build
+
+$(BUILD)/build.ninja:
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+
+build: $(BUILD)/build.ninja
+	cmake --build $(BUILD) -j $(JOBS)
+
+# Builds the tool and shows what it reads from the bundled example.
+demo: build
+	$(BUILD)/tools/mapcfg script examples/wells.cfg
+	$(BUILD)/tools/mapcfg check examples/wells.cfg && echo "check: examples/wells.cfg is clean"
+
+# Builds and runs every test.
+test: build
+	ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS)
+
+# The tests again under AddressSanitizer and UndefinedBehaviorSanitizer.
+test-asan:
+	cmake -S . -B $(ASAN) -G Ninja -DCMAKE_BUILD_TYPE=Debug -DMAPCFG_SANITIZE=ON $(CMAKE_FLAGS)
+	cmake --build $(ASAN) -j $(JOBS)
+	ctest --test-dir $(ASAN) --output-on-failure -j $(JOBS)
+
+bench:
+	cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DMAPCFG_BUILD_BENCH=ON -DMAPCFG_BUILD_TESTS=OFF
+	cmake --build build-bench -j $(JOBS)
+	for b in build-bench/bench/bench_*; do $$b; done
+
+install: build
+	cmake --install $(BUILD) --prefix $(or $(PREFIX),/usr/local)
+
+clean:
+	rm -rf $(BUILD) $(ASAN) build-bench build-fuzz

@@ -1,0 +1,48 @@
+// Physical lines of a script file, read in large blocks.
+#ifndef MAPCFG_SCRIPT_LINE_SOURCE_H_
+#define MAPCFG_SCRIPT_LINE_SOURCE_H_
+
+#include <cstdio>
+#include <memory>
+#include <string_view>
+
+namespace mapcfg {
+namespace detail {
+
+// Hands out the pieces a text-mode line read with a 2048-byte buffer would
+// give: each piece is one line up to and including its LF, or the next 2047
+// bytes of a longer line. The file is read as the suite's platform reads text
+// files: CR LF becomes LF and a Ctrl-Z byte ends the file. A piece is cut at
+// its first NUL byte, as C text would be.
+class LineSource {
+ public:
+  static constexpr size_t kPiece = 2047;
+
+  explicit LineSource(std::FILE* file);
+  LineSource(const LineSource&) = delete;
+  LineSource& operator=(const LineSource&) = delete;
+
+  // Next piece, without its LF. Returns false at end of file (or on a read
+  // error). `*split` is set when the piece is 2047 bytes of a longer line.
+  // The view stays valid until the next call.
+  bool Next(std::string_view* piece, bool* split);
+  // 1-based number of the source line the last piece came from.
+  int line() const { return line_; }
+
+ private:
+  bool Fill();
+
+  std::FILE* file_;
+  std::unique_ptr<char[]> buf_;
+  size_t begin_ = 0;  // next unread byte
+  size_t end_ = 0;    // end of translated bytes
+  bool eof_ = false;
+  bool pending_cr_ = false;  // a CR ended the last block read
+  int line_ = 0;
+  int next_line_ = 1;
+};
+
+}  // namespace detail
+}  // namespace mapcfg
+
+#endif  // MAPCFG_SCRIPT_LINE_SOURCE_H_

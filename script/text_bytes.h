@@ -1,0 +1,48 @@
+// Byte classes shared by the script reader and the tokenisers.
+#ifndef MAPCFG_SCRIPT_TEXT_BYTES_H_
+#define MAPCFG_SCRIPT_TEXT_BYTES_H_
+
+#include <string>
+
+namespace mapcfg {
+namespace detail {
+
+// A control character is 1..31 read as a signed char; bytes 0x80..0xFF are
+// ordinary characters.
+inline bool IsCtrl(char c) {
+  const signed char s = static_cast<signed char>(c);
+  return s >= 1 && s <= 31;
+}
+
+// White space as the trimming of Strings sees it: blank, tab, LF, VT, FF, CR.
+inline bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+inline char FoldAscii(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + ('a' - 'A')) : c; }
+
+// Case-insensitive equality that folds ASCII letters only.
+inline bool EqualsNoCase(const char* a, size_t na, const char* b, size_t nb) {
+  if (na != nb) return false;
+  for (size_t i = 0; i < na; ++i)
+    if (a[i] != b[i] && FoldAscii(a[i]) != FoldAscii(b[i])) return false;
+  return true;
+}
+inline bool EqualsNoCase(const std::string& a, const char* b) {
+  return EqualsNoCase(a.data(), a.size(), b, std::char_traits<char>::length(b));
+}
+
+inline void TrimRight(std::string& s) {
+  size_t n = s.size();
+  while (n > 0 && IsSpace(s[n - 1])) --n;
+  s.resize(n);
+}
+inline void Trim(std::string& s) {
+  TrimRight(s);
+  size_t i = 0;
+  while (i < s.size() && IsSpace(s[i])) ++i;
+  s.erase(0, i);
+}
+
+}  // namespace detail
+}  // namespace mapcfg
+
+#endif  // MAPCFG_SCRIPT_TEXT_BYTES_H_
