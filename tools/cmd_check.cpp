@@ -56,18 +56,22 @@ class Linter : public mapcfg::ScriptEvents {
   void OnInclude(const std::string& file, int line, const std::string& target, bool opened, bool too_deep,
                  bool too_many) override {
     const std::string key = Folded(mapcfg::sToNativePath(target));
+    const std::string shown = "\"" + ToDisplay(mapcfg::sToNativePath(target), false) + "\"";
     bool cycle = false;
     for (const Frame& f : stack_) cycle = cycle || f.path == key;
     if (cycle)
-      Report(file, line, "#Include of " + Quote(target) + " is cyclic: the file includes itself");
+      Report(file, line, "#Include of " + shown + " is cyclic: the file includes itself");
     else if (too_deep)
-      Report(file, line, "#Include of " + Quote(target) + " is not followed: includes nest deeper than " +
+      Report(file, line, "#Include of " + shown + " is not followed: includes nest deeper than " +
                              std::to_string(mapcfg::kMaxIncludeDepth) + " files");
     else if (too_many)
-      Report(file, line, "#Include of " + Quote(target) + " is not followed: more than " +
+      Report(file, line, "#Include of " + shown + " is not followed: more than " +
                              std::to_string(mapcfg::kMaxIncludedFiles) + " included files");
+    else if (!opened && mapcfg::sGetDirFromPath(file).empty())
+      Report(file, line, "#Include of " + shown + ": file not found, ignored (a script opened by a bare "
+                         "file name includes from the root folder; give its folder too)");
     else if (!opened)
-      Report(file, line, "#Include of " + Quote(target) + ": file not found, ignored");
+      Report(file, line, "#Include of " + shown + ": file not found, ignored");
   }
   void OnStrayRow(const std::string& file, int line, const std::string& row) override {
     if (row.find('=') != std::string::npos)
@@ -135,7 +139,7 @@ class Linter : public mapcfg::ScriptEvents {
 
   // Each message once, however often a cyclic include re-reads its file.
   void Report(const std::string& file, int line, const std::string& message) {
-    std::string text = file;
+    std::string text = mapcfg::sToNativePath(file);
     if (line > 0) text += ":" + std::to_string(line);
     text += ": " + message;
     if (reported_.insert(text).second) std::printf("%s\n", text.c_str());

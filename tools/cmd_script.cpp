@@ -66,7 +66,11 @@ int RunScript(const Args& args) {
   if (has_block) {
     const int count = script.GetKeyCnt(block.c_str());
     if (count < 0) return Fail(1, "no block named '" + block + "' in " + file);
-    std::printf("Config: %s\n", ToDisplay(block, raw).c_str());
+    for (int b = 0; b < script.GetCfgCnt(); ++b)
+      if (Folded(script.GetCfgName(b)) == Folded(block)) {
+        std::printf("[%d] Config: %s\n", b, ToDisplay(script.GetCfgName(b), raw).c_str());
+        break;
+      }
     for (int k = 0; k < count; ++k)
       std::printf("  %s = %s\n", ToDisplay(script.GetKeyName(block.c_str(), k), raw).c_str(),
                   ToDisplay(script.GetKeyVal(block.c_str(), k), raw).c_str());
