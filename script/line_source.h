@@ -35,9 +35,8 @@ class LineSource {
   std::FILE* file_;
   std::unique_ptr<char[]> buf_;
   size_t begin_ = 0;  // next unread byte
-  size_t end_ = 0;    // end of translated bytes
+  size_t end_ = 0;    // end of the bytes read
   bool eof_ = false;
-  bool pending_cr_ = false;  // a CR ended the last block read
   int line_ = 0;
   int next_line_ = 1;
 };

@@ -34,6 +34,14 @@ bool EqualsNoCase(std::string_view a, const char* b) {
   return detail::EqualsNoCase(a.data(), a.size(), b, std::char_traits<char>::length(b));
 }
 
+// Whether the first blank-separated token of `row` can be "#Include" (a
+// cheap test that spares most rows the token split).
+bool MayBeInclude(std::string_view row) {
+  size_t i = 0;
+  while (i < row.size() && (row[i] == ' ' || detail::IsCtrl(row[i]))) ++i;
+  return i < row.size() && row[i] == '#';
+}
+
 bool IsComment(std::string_view row) { return row.size() >= 2 && row[0] == '/' && row[1] == '/'; }
 
 // The text before the first `sep`, as sGetSubStr takes it with controls as
@@ -86,6 +94,7 @@ bool ScriptReader::GetRowData(std::string_view* row, int* line) {
     }
     *row = piece;
     *line = first_line;
+    if (!MayBeInclude(piece)) return true;
     int pos = 0;
     const String token = detail::SubStr(row->data(), row->size(), ' ', 0, &pos, "", "", 1);
     if (!EqualsNoCase(token, "#Include")) return true;
