@@ -8,6 +8,7 @@ if(rc)
 endif()
 execute_process(COMMAND ${CMAKE_COMMAND} -S "${SOURCE_DIR}/tests/find_package" -B "${WORK_DIR}/build"
                         -G "${GENERATOR}" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix"
+                        "-DCMAKE_CXX_FLAGS=${CONSUMER_FLAGS}"
                 RESULT_VARIABLE rc)
 if(rc)
   message(FATAL_ERROR "configuring the consumer failed: ${rc}")
