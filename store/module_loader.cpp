@@ -1,0 +1,24 @@
+// Shared libraries through dlopen (POSIX) or LoadLibrary (Windows).
+#include "store/module_loader.h"
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
+
+namespace mapcfg {
+namespace detail {
+
+#if defined(_WIN32)
+void* OpenModule(const std::string& path) { return reinterpret_cast<void*>(LoadLibraryA(path.c_str())); }
+void* FindExport(void* module, const char* name) {
+  return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module), name));
+}
+#else
+void* OpenModule(const std::string& path) { return dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL); }
+void* FindExport(void* module, const char* name) { return dlsym(module, name); }
+#endif
+
+}  // namespace detail
+}  // namespace mapcfg

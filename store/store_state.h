@@ -1,0 +1,105 @@
+// The store's process-wide state, shared by the library's sources.
+//
+// Everything lives in one object that is created while the library is
+// loaded (on first use at the latest, so the order in which translation
+// units are initialised does not matter) and destroyed when it is unloaded,
+// after every table has been emptied as sCfgClearPlate does.
+//
+// Configuration tables of later subsystems join it through StoreTable<T>:
+//
+//   struct LithTable : detail::Table {
+//     StringArray codes;
+//     std::vector<std::unique_ptr<_LithProp>> props;
+//     void Clear() override { codes.clear(); props.clear(); }
+//   };
+//   StringArray* sCfgGetLithCodesPtr() { return &detail::StoreTable<LithTable>().codes; }
+//
+// The store owns the table from its first use on, sCfgClearPlate calls its
+// Clear, and it is destroyed with the store.
+#ifndef MAPCFG_STORE_STORE_STATE_H_
+#define MAPCFG_STORE_STORE_STATE_H_
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "mapcfg/store.h"
+#include "mapcfg/types.h"
+
+namespace mapcfg {
+namespace detail {
+
+// A configuration table that sCfgClearPlate empties.
+class Table {
+ public:
+  virtual ~Table();
+  // Empties the table and frees its records.
+  virtual void Clear() = 0;
+};
+
+// Hands `table` to the store, which keeps it until it is unloaded; returns
+// the table.
+Table* AddTable(std::unique_ptr<Table> table);
+
+// The process-wide instance of the table type T (derived from Table),
+// created and registered with the store on first use.
+template <class T>
+T& StoreTable() {
+  static T* const table = static_cast<T*>(AddTable(std::make_unique<T>()));
+  return *table;
+}
+
+// The directories a host sets, in the order of their getters.
+enum DirIndex { kHomeDir, kConfigDir, kWorkProjDir, kOpenMapDir, kSaveMapDir, kOpenFileDir, kSaveFileDir, kDirCount };
+
+struct StoreState {
+  StoreState();
+  ~StoreState();
+  StoreState(const StoreState&) = delete;
+  StoreState& operator=(const StoreState&) = delete;
+
+  // Empties every registered table (sCfgClearPlate).
+  void ClearTables();
+
+  // Each directory is a String of its own, so that pointers handed out stay
+  // put.
+  std::unique_ptr<String> dirs[kDirCount];
+  String templ_name;
+  String plate_path;
+
+  char lang = 1;
+  ResStrFun info_source = nullptr;
+  String resource_name;
+  void* resource_module = nullptr;
+  MsgBoxHandler msg_box = nullptr;
+
+  StringArray lib_names;
+  StringArray lib_dlls;
+  StringArray menu_names;
+  StringArray menu_funs;
+  // Loaded modules: names ascending without case, handles in parallel (null
+  // for a load that failed).
+  StringArray module_names;
+  std::vector<void*> module_handles;
+  // Extra functions: names ascending without case, functions in parallel.
+  StringArray extra_names;
+  std::vector<ExtraFun> extra_funs;
+
+  // Registered configuration tables, in order of first use.
+  std::vector<std::unique_ptr<Table>> tables;
+};
+
+// The store. Never null while the library is loaded.
+StoreState& State();
+
+// Ascending order without case (ASCII letters folded to lower case, bytes
+// compared unsigned), the order of the store's name lists.
+bool LessNoCase(const std::string& a, const std::string& b);
+// The index of `name` in `names` (ascending without case), or the bitwise
+// complement of the place where it would be inserted.
+int FindNoCase(const StringArray& names, const std::string& name);
+
+}  // namespace detail
+}  // namespace mapcfg
+
+#endif  // MAPCFG_STORE_STORE_STATE_H_
