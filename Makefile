@@ -4,6 +4,9 @@ ASAN    ?= build-asan
 JOBS    ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
+FUZZ_SECONDS ?= 60
+FUZZ_JOBS    ?= 2
+
 .PHONY: all build demo test test-asan bench fuzz install clean
 
 all: build
@@ -33,6 +36,15 @@ bench:
 	cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DMAPCFG_BUILD_BENCH=ON -DMAPCFG_BUILD_TESTS=OFF
 	cmake --build build-bench -j $(JOBS)
 	for b in build-bench/bench/bench_*; do $$b; done
+
+# Runs every libFuzzer target for FUZZ_SECONDS each (FUZZ_JOBS at a time)
+# and merges what they found into the checked-in corpus under fuzz/corpus.
+fuzz:
+	cmake -S . -B build-fuzz -G Ninja -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
+	  -DCMAKE_BUILD_TYPE=RelWithDebInfo -DMAPCFG_BUILD_FUZZ=ON -DMAPCFG_SANITIZE=ON -DBUILD_SHARED_LIBS=OFF \
+	  -DMAPCFG_BUILD_TESTS=OFF -DMAPCFG_BUILD_TOOLS=OFF
+	cmake --build build-fuzz -j $(JOBS)
+	bash fuzz/run.sh build-fuzz $(FUZZ_SECONDS) $(FUZZ_JOBS)
 
 install: build
 	cmake --install $(BUILD) --prefix $(or $(PREFIX),/usr/local)

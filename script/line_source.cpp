@@ -6,21 +6,30 @@ namespace mapcfg {
 namespace detail {
 
 namespace {
-// Bytes read from the file at once.
-constexpr size_t kBlock = 256 * 1024;
+// Bytes read from the file at once: the buffer starts small, since most
+// scripts are, and doubles up to kMaxBlock while the file goes on.
+constexpr size_t kFirstBlock = 16 * 1024;
+constexpr size_t kMaxBlock = 256 * 1024;
 constexpr char kCtrlZ = 0x1A;
 }  // namespace
 
-LineSource::LineSource(std::FILE* file) : file_(file), buf_(new char[kBlock]) {}
+LineSource::LineSource(std::FILE* file) : file_(file), buf_(new char[kFirstBlock]), capacity_(kFirstBlock) {}
 
 // Moves the unread bytes to the front and appends the next block.
 bool LineSource::Fill() {
   if (eof_) return false;
   const size_t keep = end_ - begin_;
-  std::memmove(buf_.get(), buf_.get() + begin_, keep);
+  if (end_ == capacity_ && capacity_ < kMaxBlock) {
+    std::unique_ptr<char[]> bigger(new char[capacity_ * 2]);
+    std::memcpy(bigger.get(), buf_.get() + begin_, keep);
+    buf_ = std::move(bigger);
+    capacity_ *= 2;
+  } else {
+    std::memmove(buf_.get(), buf_.get() + begin_, keep);
+  }
   begin_ = 0;
   end_ = keep;
-  size_t got = std::fread(buf_.get() + keep, 1, kBlock - keep, file_);
+  size_t got = std::fread(buf_.get() + keep, 1, capacity_ - keep, file_);
   if (got == 0) {
     eof_ = true;
     return false;

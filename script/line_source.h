@@ -34,6 +34,7 @@ class LineSource {
 
   std::FILE* file_;
   std::unique_ptr<char[]> buf_;
+  size_t capacity_;
   size_t begin_ = 0;  // next unread byte
   size_t end_ = 0;    // end of the bytes read
   bool eof_ = false;

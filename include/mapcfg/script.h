@@ -37,10 +37,11 @@ namespace mapcfg {
 // following it (the top-level file is level 1). Deep enough for any real
 // configuration, low enough to keep the stack small.
 constexpr int kMaxIncludeDepth = 64;
-// Number of included files one top-level Open follows in all. It bounds the
-// work for scripts that include the same file many times over (a file that
-// includes itself twice would otherwise take 2^64 reads).
-constexpr int kMaxIncludedFiles = 4096;
+// Number of included files one top-level Open follows in all, far more than
+// any real configuration uses. It bounds the work for scripts that include
+// the same file many times over (a file that includes itself twice would
+// otherwise take 2^64 reads).
+constexpr int kMaxIncludedFiles = 1024;
 // Longest physical line piece read at once; a longer line continues as a
 // row of its own.
 constexpr int kMaxPhysicalLine = 2047;
