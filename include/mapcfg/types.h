@@ -49,6 +49,19 @@ struct CRect {
     return left == o.left && top == o.top && right == o.right && bottom == o.bottom;
   }
   constexpr bool operator!=(const CRect& o) const { return !(*this == o); }
+  // Swaps left and right when left > right, top and bottom when top > bottom.
+  constexpr void NormalizeRect() {
+    if (left > right) {
+      const int32_t t = left;
+      left = right;
+      right = t;
+    }
+    if (top > bottom) {
+      const int32_t t = top;
+      top = bottom;
+      bottom = t;
+    }
+  }
 };
 
 // Font description of exactly 60 bytes, in the field order stored in files.

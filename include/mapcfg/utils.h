@@ -6,10 +6,12 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "mapcfg/export.h"
 #include "mapcfg/platform.h"
 #include "mapcfg/types.h"
+#include "mapcfg/values.h"
 
 namespace mapcfg {
 
@@ -39,6 +41,151 @@ MAPCFG_EXPORT int sCreateFile(const char* base, const char* file, const char* di
 // "?" in the last component) and appends their bare names to `out` when it is
 // not null. Returns -1 when nothing at all matches.
 MAPCFG_EXPORT int sGetFiles(const char* pattern, StringArray* out);
+
+
+// --- Number and text conversions -----------------------------------------------
+// What sToString writes is what the script readers scan back, so the rounding
+// and formatting below are part of the file formats. Nothing here depends on
+// the host's locale: the decimal point is always ".", blanks are the C
+// locale's (space, \t, \n, \v, \f, \r). Texts may be null (read as "").
+
+// `text` with every control byte (1 to 31) removed.
+MAPCFG_EXPORT String sStdNumber(const char* text);
+MAPCFG_EXPORT String sStdNumber(const String& text);
+
+// Decimal text of an integer ("%d"). A char is read as signed on every
+// platform. The overloads cover every integer type, so that no call with a
+// built-in integer is ambiguous; 64-bit values are written in full.
+MAPCFG_EXPORT String sToString(char value);
+MAPCFG_EXPORT String sToString(int value);
+MAPCFG_EXPORT String sToString(unsigned value);
+MAPCFG_EXPORT String sToString(long value);
+MAPCFG_EXPORT String sToString(unsigned long value);
+MAPCFG_EXPORT String sToString(long long value);
+MAPCFG_EXPORT String sToString(unsigned long long value);
+// sToStdNumStr(value, 4, 1, 0): up to 4 decimals, trailing zeros removed.
+MAPCFG_EXPORT String sToString(float value);
+// sToStdNumStr(value, 6, 1, 0): up to 6 decimals, trailing zeros removed.
+MAPCFG_EXPORT String sToString(double value);
+
+// `value` with `decimals` digits after the point ("%0.<decimals>lf", rounded
+// to nearest). When `trim` is non-zero and the text holds a ".", trailing "0"s,
+// then trailing "."s, then trailing "-"s are removed ("3.000" -> "3", but
+// "-0.000" -> "-0"). When `empty_if_zero` is non-zero and the result is exactly
+// "0", the empty String is returned. A negative `decimals` counts as 0, and
+// more than 1074 (past which a double has only zeros) as 1074. Infinities
+// and NaN give "inf", "-inf", "nan", "-nan".
+MAPCFG_EXPORT String sToStdNumStr(double value, int decimals, int trim, int empty_if_zero);
+// The float is widened to double and formatted as above.
+MAPCFG_EXPORT String sToStdNumStr(float value, int decimals, int trim, int empty_if_zero);
+
+// Text to number, read as a C scan with "%d", "%x", "%f" or "%lf" into a value
+// preset to 0: leading blanks are skipped, the longest number at the start is
+// read, trailing text is ignored, and a text that does not start with a number
+// gives 0.
+// - sToInteger: optional sign and decimal digits; numbers beyond the int range
+//   give INT_MIN or INT_MAX.
+// - sToDWord: optional sign, optional "0x", hexadecimal digits; a "-" negates
+//   modulo 2^32; numbers beyond 32 bits give 0xFFFFFFFF.
+// - sToFloat, sToDouble: decimal notation only ("1", "-2.5", ".5", "3e-2");
+//   "inf", "nan" and hexadecimal floats count as no number. Rounded once to
+//   the nearest float or double; too large gives +-infinity, too small +-0.
+MAPCFG_EXPORT int sToInteger(const char* text);
+MAPCFG_EXPORT int sToInteger(const String& text);
+MAPCFG_EXPORT uint32_t sToDWord(const char* text);
+MAPCFG_EXPORT uint32_t sToDWord(const String& text);
+MAPCFG_EXPORT float sToFloat(const char* text);
+MAPCFG_EXPORT float sToFloat(const String& text);
+MAPCFG_EXPORT double sToDouble(const char* text);
+MAPCFG_EXPORT double sToDouble(const String& text);
+
+// Rounds a double to int: values >= 0 give trunc(value + 0.49), negative ones
+// trunc(value - 0.5). So 2.5 -> 2, 2.51 -> 3, -2.5 -> -3, -2.49 -> -2. The
+// asymmetry is kept on purpose. Results beyond the int range give INT_MIN or
+// INT_MAX; NaN gives 0.
+MAPCFG_EXPORT int sToInteger(double value);
+
+// The 64-bit integer written in decimal and read back as a double (the
+// nearest double).
+MAPCFG_EXPORT double sInt64ToDouble(int64_t value);
+
+// Packed degrees-minutes-seconds D.MMSSf (116.3045 is 116 deg 30' 45") to
+// degrees. The fraction left below the second is scaled by 0.0001, as files
+// written by older versions expect.
+MAPCFG_EXPORT double sDMSToDegree(double dms);
+// Degrees to packed D.MMSSf; the fraction below the second is scaled by
+// 1/3600. The round trip with sDMSToDegree is not exact in the last digits.
+MAPCFG_EXPORT double sDegreeToDMS(double degree);
+
+// Angle normalisers. Each gives exactly what adding or subtracting the period
+// repeatedly would give (rounding at every step included), in a bounded
+// number of operations:
+// - sGetStdAngle360: while below 0 add 360, then while >= 360 subtract 360.
+// - sGetStdAngle180: while above 180 subtract 360, then while <= -180 add 360
+//   (180 stays 180, -180 becomes 180).
+// - sGetStdRadianPI2: as sGetStdAngle360 with the period 6.283185307.
+// When a value is so large that adding the period no longer changes it
+// (about 1e18 and beyond), it is first replaced by its exact remainder
+// (std::fmod) and normalised from there. Infinities and NaN give NaN.
+MAPCFG_EXPORT double sGetStdAngle360(double degree);
+MAPCFG_EXPORT double sGetStdAngle180(double degree);
+MAPCFG_EXPORT double sGetStdRadianPI2(double radian);
+
+// Chainage texts: with v = value * 1e-5, `high` is the decimal text of
+// trunc(v) ("0" becomes two blanks, another single digit gets a leading "0")
+// and `low` is sToStdNumStr((v - trunc(v)) * 100, 3, 1, 0), with a "0" put in
+// front when its integer part is one character. 1234567 -> "12", "34.567";
+// 5000 -> "  ", "05".
+MAPCFG_EXPORT void sGetKMHighLow2Str(int value, String& high, String& low);
+
+// Snaps `point` to the horizontal or vertical line through `reference`:
+// when |dy| <= |dx| its y becomes reference.y, otherwise its x becomes
+// reference.x.
+MAPCFG_EXPORT void sToHVPoint(CDblPoint& reference, CDblPoint& point);
+MAPCFG_EXPORT void sToHVPoint(CPoint& reference, CPoint& point);
+
+// Length of the common prefix of `a` and `b`, ASCII case ignored.
+MAPCFG_EXPORT int sLeftFindSameCnt(const String& a, const String& b);
+// The common prefix of `a` and `b` (ASCII case ignored), upper-cased.
+MAPCFG_EXPORT String sLeftGetSameStr(const char* a, const char* b);
+// 1 when `a` is a leading part of `b` (ASCII case ignored) that is all of
+// `b`, or is followed in `b` by one of `separators`, or `separators` is
+// empty. When `one_way` is 0 the same test is also made with `a` and `b`
+// exchanged. Otherwise 0.
+MAPCFG_EXPORT int sLeftCmpStr(const String& a, const String& b, const String& separators, int one_way);
+
+// --- Well names and drawing text ---------------------------------------------------
+// Texts are ASCII or GBK: a byte 0x81..0xFE and the byte after it form one
+// character and are never taken apart.
+
+// Splits a well name into its leading name (everything before the first
+// ASCII digit, trailing blanks removed) and its number (the rest), and the
+// number into pieces at any of `separators` (null or "" means "-" and "_";
+// empty pieces are kept). `part` chooses what `id` receives: 0 the leading
+// name, -1 the whole number, k >= 1 the k-th piece; anything else the empty
+// String. Returns the number of pieces, 0 when the name holds no digit.
+// "Wen 12-5X": name "Wen", number "12-5X", pieces "12" and "5X"; returns 2.
+MAPCFG_EXPORT int sGetWellID(String well, int part, const char* separators, String& id);
+
+// Drawing-text markup: "^" switches superscript on and off, "`" switches
+// subscript on and off (one switches the other off), and a "\" before "^",
+// "`" or "\" makes that character plain text; any other "\" is plain text.
+//
+// Appends `down` as subscript and then `up` as superscript to `text`, each
+// enclosed in its marks and with its own "^", "`" and "\" escaped; an empty
+// part adds nothing. ("E", "s3", "2") -> "E`s3`^2^".
+MAPCFG_EXPORT void sToUpDownMarkStr(String& text, const char* down, String up);
+
+// Piece kinds of sDrawFmtText_DiviSubStr.
+constexpr char kDrawTextNormal = 0;
+constexpr char kDrawTextUp = 1;    // superscript
+constexpr char kDrawTextDown = 2;  // subscript
+
+// Divides marked drawing text into runs of one kind. `pieces` and `kinds`
+// are cleared and then receive, in order, each non-empty run with its
+// escapes resolved and its kind (kDrawText...). `text` is replaced by the
+// plain text (all pieces joined). Returns the number of pieces.
+MAPCFG_EXPORT int sDrawFmtText_DiviSubStr(String& text, StringArray& pieces, std::vector<char>& kinds);
 
 }  // namespace mapcfg
 
