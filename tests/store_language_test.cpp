@@ -3,17 +3,13 @@
 #include <gtest/gtest.h>
 #include <mapcfg/store.h>
 
-#include <algorithm>
+#include <iconv.h>
+
 #include <fstream>
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
-
-#if defined(__GLIBC__)
-#include <iconv.h>
-#define MAPCFG_TEST_HAVE_ICONV 1
-#endif
 
 namespace {
 
@@ -40,7 +36,6 @@ std::vector<std::vector<std::string>> ReadRows(const std::string& name) {
   return rows;
 }
 
-#if MAPCFG_TEST_HAVE_ICONV
 // GBK bytes as UTF-8, or "<not GBK>" when they are not valid GBK.
 std::string GbkToUtf8(const std::string& gbk) {
   iconv_t cd = iconv_open("UTF-8", "GBK");
@@ -56,21 +51,6 @@ std::string GbkToUtf8(const std::string& gbk) {
   if (r == static_cast<size_t>(-1)) return "<not GBK>";
   out.resize(out.size() - out_left);
   return out;
-}
-#endif
-
-[[maybe_unused]] bool IsAscii(const std::string& s) {
-  return std::all_of(s.begin(), s.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
-// Table text as UTF-8 for comparing with the data files; without a
-// converter, ASCII texts only (others give "<no converter>").
-std::string Shown(const std::string& text) {
-#if MAPCFG_TEST_HAVE_ICONV
-  return GbkToUtf8(text);
-#else
-  return IsAscii(text) ? text : "<no converter>";
-#endif
 }
 
 bool EndsWith(const std::string& s, const std::string& tail) {
@@ -91,22 +71,13 @@ TEST(StoreLanguage, EnglishTableMatchesTheDocumentedListing) {
     const auto it = listed.find(i);
     // Entries the listing leaves out (534, 536 to 541) are empty.
     const std::string expected = it == listed.end() ? std::string() : it->second;
-#if !MAPCFG_TEST_HAVE_ICONV
-    if (!IsAscii(expected)) continue;
-#endif
-    for (char lang : {'\0', '\2', '\xff', 'E'}) EXPECT_EQ(Shown(sGetCfgStr(lang, i)), expected) << "index " << i;
+    for (char lang : {'\0', '\2', '\xff', 'E'}) EXPECT_EQ(GbkToUtf8(sGetCfgStr(lang, i)), expected) << "index " << i;
   }
-  // The Chinese table is indexed alike and ends with the empty entry too.
-  EXPECT_EQ(sGetCfgStr(1, 541), "");
-  for (int i = 0; i < kCfgStrCount - 1; ++i) {
-    if (!listed.count(i)) {
-      EXPECT_EQ(sGetCfgStr(1, i), "") << "index " << i;
-    }
-  }
+  // The Chinese table is indexed alike.
+  for (int i : {534, 536, 537, 538, 539, 540, 541}) EXPECT_EQ(sGetCfgStr(1, i), "") << "index " << i;
 }
 
 TEST(StoreLanguage, ChineseTableHoldsGbkTranslations) {
-#if MAPCFG_TEST_HAVE_ICONV
   const auto quoted = ReadRows("cfg_strings_zh_quoted.txt");
   ASSERT_GT(quoted.size(), 100u);
   for (const auto& row : quoted) {
@@ -122,13 +93,6 @@ TEST(StoreLanguage, ChineseTableHoldsGbkTranslations) {
     if (i <= 133 && zh != sGetCfgStr(0, i)) ++translated;
   }
   EXPECT_EQ(translated, 134);
-#else
-  GTEST_SKIP() << "no iconv to check GBK against UTF-8";
-#endif
-}
-
-TEST(StoreLanguage, SqlAndColumnNamesReadTheSameInBothLanguages) {
-  for (int i : {134, 138, 183, 222, 227, 348, 469, 514, 529}) EXPECT_EQ(sGetCfgStr(1, i), sGetCfgStr(0, i)) << i;
 }
 
 TEST(StoreLanguage, HelpRows) {
@@ -137,11 +101,7 @@ TEST(StoreLanguage, HelpRows) {
   ASSERT_GT(quoted.size(), 40u);
   for (const auto& row : quoted) {
     const int index = std::stoi(row.at(0));
-    const std::string text = sGetHelpStr(row.at(1) == "zh" ? 1 : 0, index);
-#if !MAPCFG_TEST_HAVE_ICONV
-    if (!IsAscii(row.at(2))) continue;
-#endif
-    const std::string shown = Shown(text);
+    const std::string shown = GbkToUtf8(sGetHelpStr(row.at(1) == "zh" ? 1 : 0, index));
     EXPECT_TRUE(EndsWith(shown, row.at(2))) << "row " << index << " " << row.at(1) << ": " << shown;
     if (row.size() > 3 && !row.at(3).empty()) {
       EXPECT_NE(shown.find(row.at(3)), std::string::npos) << index;
@@ -185,7 +145,6 @@ TEST(StoreLanguage, VersionString) {
   EXPECT_EQ(mapcfg::sGetVersionStr(0x03012067), "3.1.20.67");
   EXPECT_EQ(mapcfg::sGetVersionStr(0x0A0B0C0D), "a.b.c.d");
   EXPECT_EQ(mapcfg::sGetVersionStr(0xFFFFFFFFu), "ff.ff.ff.ff");
-  EXPECT_EQ(mapcfg::sGetVersionStr(0), "0.0.0.0");
 }
 
 std::vector<std::pair<char, std::string>> g_boxes;

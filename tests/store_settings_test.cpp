@@ -47,10 +47,8 @@ TEST(StoreDirectories, SevenSeparateStringsThatStayPut) {
   mapcfg::String* dirs[] = {mapcfg::sGetHomeDirPtr(),     mapcfg::sGetConfigDirPtr(),   mapcfg::sGetWorkProjDirPtr(),
                             mapcfg::sGetOpenMapDirPtr(),  mapcfg::sGetSaveMapDirPtr(),  mapcfg::sGetOpenFileDirPtr(),
                             mapcfg::sGetSaveFileDirPtr()};
-  for (size_t i = 0; i < 7; ++i) {
-    ASSERT_NE(dirs[i], nullptr);
+  for (size_t i = 0; i < 7; ++i)
     for (size_t j = 0; j < i; ++j) EXPECT_NE(dirs[i], dirs[j]);
-  }
   const std::string saved = *dirs[0];
   *dirs[0] = "C:\\Suite";
   EXPECT_EQ(mapcfg::sGetHomeDir(), "C:\\Suite");
