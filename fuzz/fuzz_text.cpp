@@ -58,6 +58,27 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   s = bytes;
   sNewLnDrawToAct(s);
 
+  // Conversions: text to numbers and back, angles on whatever the bytes hold.
+  const int i = sToInteger(text);
+  const double d = sToDouble(text);
+  (void)sToFloat(text);
+  (void)sToDWord(text);
+  (void)sStdNumber(text);
+  Check(sToInteger(sToString(i)) == i);
+  (void)sToStdNumStr(d, start & 15, ctrl, sep & 1);
+  (void)sToStdNumStr(static_cast<float>(d), start & 15, ctrl, sep & 1);
+  (void)sToInteger(d);
+  double raw = 0;
+  if (bytes.size() >= sizeof raw) std::memcpy(&raw, bytes.data(), sizeof raw);  // any bit pattern
+  (void)sGetStdAngle360(raw);
+  (void)sGetStdAngle180(raw);
+  (void)sGetStdRadianPI2(raw);
+  (void)sDMSToDegree(raw);
+  (void)sDegreeToDMS(raw);
+  String high, low;
+  sGetKMHighLow2Str(i, high, low);
+  (void)sLeftCmpStr(text, bytes, String(1, sep), ctrl);
+
   const String dir = sGetDirFromPath(text);
   const String file = sGetFileFromPath(text);
   Check(dir.size() + file.size() <= text.size() + 1);
