@@ -1,0 +1,316 @@
+// Archive bytes against hand-built golden streams (tests/data/archive/*.hex):
+// each line holds a value's bytes, the writer that must produce them and
+// what every reader must make of them.
+#include <gtest/gtest.h>
+#include <mapcfg/mapcfg.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <functional>
+#include <map>
+#include <utility>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "test_util.h"
+
+using namespace mapcfg;
+using Args = std::vector<std::string>;
+
+namespace {
+
+// Splits at `sep` outside "..." and [...]; pieces are trimmed.
+Args Split(const std::string& s, char sep) {
+  Args out(1);
+  int depth = 0;
+  bool quoted = false;
+  for (size_t i = 0; i < s.size(); ++i) {
+    const char c = s[i];
+    if (c == '\\' && quoted && i + 1 < s.size()) {
+      out.back() += s.substr(i++, 2);
+      continue;
+    }
+    if (c == '"') quoted = !quoted;
+    if (!quoted && (c == '[' || c == '(')) ++depth;
+    if (!quoted && (c == ']' || c == ')')) --depth;
+    if (c == sep && !quoted && depth == 0)
+      out.emplace_back();
+    else
+      out.back() += c;
+  }
+  for (std::string& p : out) {
+    p.erase(0, p.find_first_not_of(" \t"));
+    p.erase(p.find_last_not_of(" \t") + 1);
+  }
+  if (sep == ' ') out.erase(std::remove(out.begin(), out.end(), ""), out.end());
+  return out;
+}
+
+// "text" with \xNN escapes, or the piece itself.
+std::string Unquote(const std::string& s) {
+  if (s.size() < 2 || s.front() != '"') return s;
+  std::string out;
+  for (size_t i = 1; i + 1 < s.size(); ++i)
+    if (s[i] == '\\' && s[i + 1] == 'x') {
+      out += static_cast<char>(std::stoi(s.substr(i + 2, 2), nullptr, 16));
+      i += 3;
+    } else {
+      out += s[i];
+    }
+  return out;
+}
+
+// The arguments of "Name(a,b)" or the elements of "[a,b]".
+Args Inner(const std::string& s) {
+  const size_t open = s.find_first_of("([");
+  const std::string inner = s.substr(open + 1, s.size() - open - 2);
+  return inner.empty() ? Args() : Split(inner, ',');
+}
+
+struct Golden {
+  std::string where, bytes, writer;
+  std::vector<std::pair<std::string, std::string>> expect;
+};
+
+std::vector<Golden> Load(const std::string& name) {
+  std::vector<Golden> lines;
+  std::string text = mapcfg_test::ReadAll(std::string(MAPCFG_TEST_DATA) + "/archive/" + name);
+  EXPECT_FALSE(text.empty()) << name;
+  size_t start = 0;
+  for (int n = 1; start < text.size(); ++n) {
+    const size_t end = text.find('\n', start);
+    const std::string line = text.substr(start, end - start);
+    start = end == std::string::npos ? text.size() : end + 1;
+    if (line.empty() || line[0] == '#') continue;
+    const Args cols = Split(line, '|');
+    EXPECT_EQ(cols.size(), 3u) << name << ":" << n;
+    Golden g{name + ":" + std::to_string(n), "", cols.at(1), {}};
+    for (const std::string& hex : Split(cols[0], ' ')) g.bytes += static_cast<char>(std::stoi(hex, nullptr, 16));
+    for (const std::string& kv : Split(cols[2], ' ')) g.expect.emplace_back(kv.substr(0, kv.find('=')), kv.substr(kv.find('=') + 1));
+    lines.push_back(g);
+  }
+  return lines;
+}
+
+// Values as comparable text: integers in decimal, floating values with 17
+// digits (floats parsed as floats), texts as bytes.
+std::string Canon(long long v) { return std::to_string(v); }
+std::string Canon(double v) {
+  char buf[64];
+  std::snprintf(buf, sizeof buf, "%.17g", v);
+  return buf;
+}
+std::string Expected(char type, const std::string& s) {
+  if (type == 'i') return Canon(std::stoll(s));
+  if (type == 'f') return Canon(static_cast<double>(std::strtof(s.c_str(), nullptr)));
+  if (type == 'd') return Canon(std::strtod(s.c_str(), nullptr));
+  return Unquote(s);
+}
+
+template <class T> char TypeOf() {
+  return std::is_same<T, String>::value ? 's' : std::is_same<T, float>::value ? 'f' : std::is_same<T, double>::value ? 'd' : 'i';
+}
+template <class T> std::string Actual(T v) {
+  return TypeOf<T>() == 'i' ? Canon(static_cast<long long>(v)) : Canon(static_cast<double>(v));
+}
+std::string Actual(const String& v) { return v; }
+
+// What a reader read: field texts and their types (i f d s); a list (array
+// forms) has one type for all; `start` is a composite target's start value.
+struct Read {
+  Read(std::string t, Args v, bool l = false) : types(std::move(t)), values(std::move(v)), list(l) {}
+  std::string types;
+  Args values;
+  bool list;
+  Args start;
+};
+using Reader = std::function<Read(CFFArchive&)>;
+
+template <class T> Reader Scalar(T (CFFArchive::*get)()) {
+  return [get](CFFArchive& a) { return Read(std::string(1, TypeOf<T>()), {Actual((a.*get)())}); };
+}
+template <class T> Reader Array(uint32_t (CFFArchive::*get)(std::unique_ptr<T[]>&)) {
+  return [get](CFFArchive& a) {
+    std::unique_ptr<T[]> block;
+    const uint32_t n = (a.*get)(block);
+    Read r(std::string(1, TypeOf<T>()), {}, true);
+    for (uint32_t i = 0; i < n; ++i) r.values.push_back(Actual(block[i]));
+    return r;
+  };
+}
+
+Read Of(const CSize& v) { return {"ii", {Actual(v.cx), Actual(v.cy)}}; }
+Read Of(const CRect& v) { return {"iiii", {Actual(v.left), Actual(v.top), Actual(v.right), Actual(v.bottom)}}; }
+Read Of(const CDblPoint& v) { return {"dd", {Actual(v.x), Actual(v.y)}}; }
+Read Of(const CDblRect& v) { return {"dddd", {Actual(v.left), Actual(v.top), Actual(v.right), Actual(v.bottom)}}; }
+Read Of(const CTime& v) { return {"i", {Actual(v.m_time)}}; }
+Read Of(const COleDateTime& v) { return {"di", {Actual(v.m_dt), Actual(v.m_status)}}; }
+Read Of(const _HVSpaceProp& v) { return {"dd", {Actual(v.hSpace), Actual(v.vSpace)}}; }
+Read Of(const LOGFONT& f) {
+  Read r("iiiiiiiiiiiiis", {Actual(f.lfHeight), Actual(f.lfWidth), Actual(f.lfEscapement), Actual(f.lfOrientation),
+                            Actual(f.lfWeight)});
+  for (const uint8_t* b = &f.lfItalic; b <= &f.lfPitchAndFamily; ++b) r.values.push_back(Actual(*b));
+  r.values.push_back(f.lfFaceName);
+  return r;
+}
+
+LOGFONT Font(const Args& a) {
+  LOGFONT f;
+  int32_t* ints[5] = {&f.lfHeight, &f.lfWidth, &f.lfEscapement, &f.lfOrientation, &f.lfWeight};
+  for (int i = 0; i < 5; ++i) *ints[i] = std::stoi(a.at(i));
+  uint8_t* bytes = &f.lfItalic;  // the eight byte fields follow each other
+  for (int i = 0; i < 8; ++i) bytes[i] = static_cast<uint8_t>(std::stoi(a.at(5 + i)));
+  const std::string face = Unquote(a.at(13));
+  std::copy(face.begin(), face.end(), f.lfFaceName);
+  return f;
+}
+
+// operator>> (or a Get... of a record) into a target that starts as `start`.
+template <class T>
+Reader Into(T start, std::function<void(CFFArchive&, T&)> read = [](CFFArchive& a, T& v) { a >> v; }) {
+  return [start, read](CFFArchive& a) {
+    T v = start;
+    read(a, v);
+    Read r = Of(v);
+    r.start = Of(start).values;
+    return r;
+  };
+}
+
+LOGFONT FontStart() {
+  LOGFONT f;
+  f.lfHeight = -7;
+  return f;
+}
+
+const std::map<std::string, Reader>& Readers() {
+  static const std::map<std::string, Reader> readers = {
+      {"byte", Scalar<uint8_t>(&CFFArchive::GetByte)},       {"short", Scalar<int16_t>(&CFFArchive::GetShort)},
+      {"long", Scalar<int32_t>(&CFFArchive::GetLong)},       {"float", Scalar<float>(&CFFArchive::GetFloat)},
+      {"double", Scalar<double>(&CFFArchive::GetDouble)},    {"string", Scalar<String>(&CFFArchive::GetString)},
+      {"bytes", Array<uint8_t>(&CFFArchive::GetByte)},       {"shorts", Array<int16_t>(&CFFArchive::GetShort)},
+      {"longs", Array<int32_t>(&CFFArchive::GetLong)},       {"floats", Array<float>(&CFFArchive::GetFloat)},
+      {"doubles", Array<double>(&CFFArchive::GetDouble)},    {"size", Into(CSize(-7, -7))},
+      {"rect", Into(CRect(-7, -7, -7, -7))},                 {"dpoint", Into(CDblPoint(-7, -7))},
+      {"drect", Into(CDblRect(-7, -7, -7, -7))},             {"time", Into(CTime(-1))},
+      {"date", Into(COleDateTime{-7.0, -7})},                {"font", Into(FontStart())},
+      {"point", Into<CDblPoint>(CDblPoint(-7, -7), [](CFFArchive& a, CDblPoint& p) { EXPECT_EQ(a.GetDblPoint(&p), 1); })},
+      {"hvspace", Into<_HVSpaceProp>(_HVSpaceProp{-7, -7}, [](CFFArchive& a, _HVSpaceProp& p) { EXPECT_EQ(a.GetHVSpaceProp(&p), 1); })},
+  };
+  return readers;
+}
+
+template <class T, class Parse> std::vector<T> Parsed(const Args& a, Parse parse) {
+  std::vector<T> v;
+  for (const std::string& s : a) v.push_back(static_cast<T>(parse(s)));
+  return v;
+}
+long long Int(const std::string& s) { return std::stoll(s); }
+float Flt(const std::string& s) { return std::strtof(s.c_str(), nullptr); }
+double Dbl(const std::string& s) { return std::strtod(s.c_str(), nullptr); }
+
+void Write(CFFArchive& a, const std::string& call) {
+  const std::string name = call.substr(0, call.find('('));
+  const Args x = Inner(call);
+  if (name == "Byte") a.PutByte(static_cast<uint8_t>(Int(x.at(0))));
+  else if (name == "Short") a.PutShort(static_cast<int16_t>(Int(x.at(0))));
+  else if (name == "Long") a.PutLong(static_cast<int32_t>(Int(x.at(0))));
+  else if (name == "Float") a.PutFloat(Flt(x.at(0)));
+  else if (name == "Double") a.PutDouble(Dbl(x.at(0)));
+  else if (name == "String") a.PutString(Unquote(x.at(0)).c_str());
+  else if (name == "Bytes") a.PutByte(Parsed<uint8_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
+  else if (name == "Binary") a.PutBinary(Parsed<uint8_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
+  else if (name == "Shorts") a.PutShort(Parsed<int16_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
+  else if (name == "Longs") a.PutLong(Parsed<int32_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
+  else if (name == "Floats") a.PutFloat(Parsed<float>(x, Flt).data(), static_cast<uint32_t>(x.size()));
+  else if (name == "Doubles") a.PutDouble(Parsed<double>(x, Dbl).data(), static_cast<uint32_t>(x.size()));
+  else if (name == "CSize") a << CSize(std::stoi(x.at(0)), std::stoi(x.at(1)));
+  else if (name == "CRect") a << CRect(std::stoi(x.at(0)), std::stoi(x.at(1)), std::stoi(x.at(2)), std::stoi(x.at(3)));
+  else if (name == "CDblPoint") a << CDblPoint(Dbl(x.at(0)), Dbl(x.at(1)));
+  else if (name == "CDblRect") a << CDblRect(Dbl(x.at(0)), Dbl(x.at(1)), Dbl(x.at(2)), Dbl(x.at(3)));
+  else if (name == "CTime") a << CTime(Int(x.at(0)));
+  else if (name == "COleDateTime") a << COleDateTime{Dbl(x.at(0)), static_cast<int32_t>(Int(x.at(1)))};
+  else if (name == "LOGFONT") a << Font(x);
+  else if (name == "DblPoint") { const CDblPoint p(Dbl(x.at(0)), Dbl(x.at(1))); EXPECT_EQ(a.PutDblPoint(&p), 1); }
+  else if (name == "HVSpace") { const _HVSpaceProp p{Dbl(x.at(0)), Dbl(x.at(1))}; EXPECT_EQ(a.PutHVSpaceProp(&p), 1); }
+  else ADD_FAILURE() << "unknown writer " << call;
+}
+
+std::string Stream(CFFArchive& a) {
+  uint32_t n = 0;
+  std::unique_ptr<uint8_t[]> data = a.ToData(n);
+  return std::string(reinterpret_cast<const char*>(data.get()), n);
+}
+
+// True when exactly `n` bytes of the stream have been read.
+bool Consumed(CFFArchive& a, uint32_t n) {
+  return n <= a.GetCount() && a.ReadUnit(nullptr, a.GetCount() - n) == 1 && a.ReadUnit(nullptr, 1) == 0;
+}
+
+CFFArchive& Loaded(CFFArchive& a, const std::string& bytes) {
+  a.FromData(bytes.data(), static_cast<uint32_t>(bytes.size()));
+  return a;
+}
+
+void CheckFile(const std::string& name) {
+  CFFArchive whole;
+  std::string expected_whole;
+  for (const Golden& g : Load(name)) {
+    SCOPED_TRACE(g.where);
+    if (g.writer != "-") {
+      CFFArchive one;
+      Write(one, g.writer);
+      EXPECT_EQ(Stream(one), g.bytes) << g.writer;
+      Write(whole, g.writer);
+      expected_whole += g.bytes;
+    }
+    // A scalar or text read by an array form gives a block of one element.
+    auto expect = g.expect;
+    const std::map<std::string, std::string> array_form = {
+        {"byte", "bytes"}, {"short", "shorts"}, {"long", "longs"}, {"float", "floats"}, {"double", "doubles"}};
+    const uint8_t tag = static_cast<uint8_t>(g.bytes[0]);
+    for (const auto& kv : g.expect)
+      if ((tag < 20 || tag == 21) && array_form.count(kv.first)) expect.emplace_back(array_form.at(kv.first), "[" + kv.second + "]");
+    for (const auto& kv : expect) {
+      CFFArchive a;
+      const Read got = Readers().at(kv.first)(Loaded(a, g.bytes));
+      EXPECT_EQ(a.GetLastError(), "") << kv.first;
+      EXPECT_TRUE(Consumed(a, static_cast<uint32_t>(g.bytes.size()))) << kv.first;
+      Args want = got.start;
+      if (kv.second != "unchanged") {
+        const Args parts = got.list ? Inner(kv.second) : Split(kv.second, ',');
+        want.clear();
+        for (size_t i = 0; i < parts.size(); ++i) want.push_back(Expected(got.list ? got.types[0] : i < got.types.size() ? got.types[i] : 's', parts[i]));
+      }
+      EXPECT_EQ(got.values, want) << kv.first << "=" << kv.second;
+    }
+  }
+  EXPECT_EQ(Stream(whole), expected_whole) << name << " written as one stream";
+}
+
+}  // namespace
+
+TEST(ArchiveGolden, ScalarsArraysAndComposites) {
+  CheckFile("scalars.hex");
+  CheckFile("arrays.hex");
+  CheckFile("composites.hex");
+}
+
+// Every reader fails on these streams with the stated message and leaves
+// exactly the stated bytes consumed.
+TEST(ArchiveGolden, InvalidStreams) {
+  for (const Golden& g : Load("invalid.hex")) {
+    SCOPED_TRACE(g.where);
+    ASSERT_EQ(g.expect.size(), 2u);
+    const String message = sGetInfoStr(std::stoi(g.expect[0].second));
+    for (const char* form : {"byte", "short", "long", "float", "double", "string", "bytes", "shorts", "longs", "floats", "doubles"}) {
+      CFFArchive a;
+      const Read got = Readers().at(form)(Loaded(a, g.bytes));
+      EXPECT_TRUE(got.values.empty() || got.values == Args{"0"} || got.values == Args{""}) << form;
+      EXPECT_EQ(a.GetLastError(), message) << form;
+      EXPECT_TRUE(Consumed(a, static_cast<uint32_t>(std::stoi(g.expect[1].second)))) << form;
+    }
+  }
+}
