@@ -21,6 +21,7 @@ build: $(BUILD)/build.ninja
 demo: build
 	$(BUILD)/tools/mapcfg script examples/wells.cfg
 	$(BUILD)/tools/mapcfg check examples/wells.cfg && echo "check: examples/wells.cfg is clean"
+	$(BUILD)/examples/read_wells examples/wells.cfg
 
 # Builds and runs every test.
 test: build
