@@ -8,7 +8,7 @@ namespace detail {
 namespace {
 // Bytes read from the file at once: the buffer starts small, since most
 // scripts are, and doubles up to kMaxBlock while the file goes on.
-constexpr size_t kFirstBlock = 16 * 1024;
+constexpr size_t kFirstBlock = 4 * 1024;
 constexpr size_t kMaxBlock = 256 * 1024;
 constexpr char kCtrlZ = 0x1A;
 }  // namespace

@@ -41,7 +41,7 @@ constexpr int kMaxIncludeDepth = 64;
 // any real configuration uses. It bounds the work for scripts that include
 // the same file many times over (a file that includes itself twice would
 // otherwise take 2^64 reads).
-constexpr int kMaxIncludedFiles = 1024;
+constexpr int kMaxIncludedFiles = 256;
 // Longest physical line piece read at once; a longer line continues as a
 // row of its own.
 constexpr int kMaxPhysicalLine = 2047;
