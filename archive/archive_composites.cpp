@@ -79,8 +79,8 @@ int ReadTwoDoubles(CFFArchive& a, double& first, double& second) {
 // Array writer: the count of `first`, then element i of first, second and
 // third in turn. A shorter second or third array throws std::out_of_range.
 template <class T, class PutOne>
-int PutArrays(CFFArchive& a, const std::vector<T>& first, const std::vector<T>* second,
-              const std::vector<T>* third, PutOne put) {
+int PutArrays(CFFArchive& a, const std::vector<T>& first, const std::vector<T>* second, const std::vector<T>* third,
+              PutOne put) {
   a.PutLong(static_cast<int32_t>(first.size()));
   for (size_t i = 0; i < first.size(); ++i) {
     put(first[i]);
@@ -92,8 +92,7 @@ int PutArrays(CFFArchive& a, const std::vector<T>& first, const std::vector<T>* 
 
 // Array reader: appends count rounds of elements; 0 at the first failed read.
 template <class T, class GetOne>
-int GetArrays(CFFArchive& a, std::vector<T>& first, std::vector<T>* second, std::vector<T>* third,
-              GetOne get) {
+int GetArrays(CFFArchive& a, std::vector<T>& first, std::vector<T>* second, std::vector<T>* third, GetOne get) {
   const int32_t count = a.GetLong();
   if (ArchiveCore::HasError(a)) return 0;
   std::vector<T>* const targets[3] = {&first, second, third};
@@ -260,8 +259,7 @@ int CFFArchive::GetCharArray(std::vector<char>& first, std::vector<char>* second
   return GetArrays(*this, first, second, third, [this](char& c) { c = static_cast<char>(GetByte()); });
 }
 
-int CFFArchive::GetIntArray(std::vector<int32_t>& first, std::vector<int32_t>* second,
-                            std::vector<int32_t>* third) {
+int CFFArchive::GetIntArray(std::vector<int32_t>& first, std::vector<int32_t>* second, std::vector<int32_t>* third) {
   return GetArrays(*this, first, second, third, [this](int32_t& v) { v = GetLong(); });
 }
 

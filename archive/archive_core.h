@@ -68,13 +68,21 @@ constexpr bool kHostLittleEndian = false;  // element by element: correct anywhe
 template <size_t N>
 struct UnsignedOfSize;
 template <>
-struct UnsignedOfSize<1> { using type = uint8_t; };
+struct UnsignedOfSize<1> {
+  using type = uint8_t;
+};
 template <>
-struct UnsignedOfSize<2> { using type = uint16_t; };
+struct UnsignedOfSize<2> {
+  using type = uint16_t;
+};
 template <>
-struct UnsignedOfSize<4> { using type = uint32_t; };
+struct UnsignedOfSize<4> {
+  using type = uint32_t;
+};
 template <>
-struct UnsignedOfSize<8> { using type = uint64_t; };
+struct UnsignedOfSize<8> {
+  using type = uint64_t;
+};
 
 // Stores `value` (an integer or IEEE float) as sizeof(T) little-endian bytes.
 template <class T>

@@ -59,17 +59,26 @@ struct Stored {
   String text;          // tag 21
 };
 
-
 // The value of scalar tag `tag` at p, or of a text of `count` bytes.
 Stored Decode(uint8_t tag, const uint8_t* p, uint32_t count) {
   Stored v;
   v.tag = tag;
   switch (tag) {
-    case 1: v.integer = p[0]; break;
-    case 2: v.integer = LoadLE<int16_t>(p); break;
-    case 3: v.integer = LoadLE<int32_t>(p); break;
-    case 4: v.single = LoadLE<float>(p); break;
-    case 5: v.real = LoadLE<double>(p); break;
+    case 1:
+      v.integer = p[0];
+      break;
+    case 2:
+      v.integer = LoadLE<int16_t>(p);
+      break;
+    case 3:
+      v.integer = LoadLE<int32_t>(p);
+      break;
+    case 4:
+      v.single = LoadLE<float>(p);
+      break;
+    case 5:
+      v.real = LoadLE<double>(p);
+      break;
     default: {
       // A text ends at its first NUL, as the conversions see it.
       const void* nul = count ? std::memchr(p, 0, count) : nullptr;
@@ -112,7 +121,9 @@ struct IntegerRow {
   // Stored floats and doubles mend values a hair below a whole number: the
   // single nearest 0.0005 or the double 5e-7 is added whatever the sign,
   // then the sum is truncated (2.9996f reads as 3, -1.5 as -1).
-  static Int FromSingle(float v) { return Narrow<Int>(TruncateToInt64(static_cast<double>(v) + static_cast<double>(0.0005f))); }
+  static Int FromSingle(float v) {
+    return Narrow<Int>(TruncateToInt64(static_cast<double>(v) + static_cast<double>(0.0005f)));
+  }
   static Int FromDouble(double v) { return Narrow<Int>(TruncateToInt64(v + 5e-7)); }
   static Int FromText(String& t) { return Narrow<Int>(sToInteger(t.c_str())); }
 };
@@ -153,10 +164,14 @@ T Convert(Stored v) {
   switch (v.tag) {
     case 1:
     case 2:
-    case 3: return Row<T>::FromInteger(v.integer);
-    case 4: return Row<T>::FromSingle(v.single);
-    case 5: return Row<T>::FromDouble(v.real);
-    default: return Row<T>::FromText(v.text);
+    case 3:
+      return Row<T>::FromInteger(v.integer);
+    case 4:
+      return Row<T>::FromSingle(v.single);
+    case 5:
+      return Row<T>::FromDouble(v.real);
+    default:
+      return Row<T>::FromText(v.text);
   }
 }
 

@@ -9,15 +9,18 @@
 #include <cstdio>
 #include <functional>
 #include <map>
-#include <utility>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
+#include "archive_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
 using Args = std::vector<std::string>;
+using mapcfg_test::Bytes;
+using mapcfg_test::Loaded;
 
 namespace {
 
@@ -88,7 +91,8 @@ std::vector<Golden> Load(const std::string& name) {
     EXPECT_EQ(cols.size(), 3u) << name << ":" << n;
     Golden g{name + ":" + std::to_string(n), "", cols.at(1), {}};
     for (const std::string& hex : Split(cols[0], ' ')) g.bytes += static_cast<char>(std::stoi(hex, nullptr, 16));
-    for (const std::string& kv : Split(cols[2], ' ')) g.expect.emplace_back(kv.substr(0, kv.find('=')), kv.substr(kv.find('=') + 1));
+    for (const std::string& kv : Split(cols[2], ' '))
+      g.expect.emplace_back(kv.substr(0, kv.find('=')), kv.substr(kv.find('=') + 1));
     lines.push_back(g);
   }
   return lines;
@@ -109,10 +113,15 @@ std::string Expected(char type, const std::string& s) {
   return Unquote(s);
 }
 
-template <class T> char TypeOf() {
-  return std::is_same<T, String>::value ? 's' : std::is_same<T, float>::value ? 'f' : std::is_same<T, double>::value ? 'd' : 'i';
+template <class T>
+char TypeOf() {
+  return std::is_same<T, String>::value   ? 's'
+         : std::is_same<T, float>::value  ? 'f'
+         : std::is_same<T, double>::value ? 'd'
+                                          : 'i';
 }
-template <class T> std::string Actual(T v) {
+template <class T>
+std::string Actual(T v) {
   return TypeOf<T>() == 'i' ? Canon(static_cast<long long>(v)) : Canon(static_cast<double>(v));
 }
 std::string Actual(const String& v) { return v; }
@@ -128,10 +137,12 @@ struct Read {
 };
 using Reader = std::function<Read(CFFArchive&)>;
 
-template <class T> Reader Scalar(T (CFFArchive::*get)()) {
+template <class T>
+Reader Scalar(T (CFFArchive::*get)()) {
   return [get](CFFArchive& a) { return Read(std::string(1, TypeOf<T>()), {Actual((a.*get)())}); };
 }
-template <class T> Reader Array(uint32_t (CFFArchive::*get)(std::unique_ptr<T[]>&)) {
+template <class T>
+Reader Array(uint32_t (CFFArchive::*get)(std::unique_ptr<T[]>&)) {
   return [get](CFFArchive& a) {
     std::unique_ptr<T[]> block;
     const uint32_t n = (a.*get)(block);
@@ -149,8 +160,8 @@ Read Of(const CTime& v) { return {"i", {Actual(v.m_time)}}; }
 Read Of(const COleDateTime& v) { return {"di", {Actual(v.m_dt), Actual(v.m_status)}}; }
 Read Of(const _HVSpaceProp& v) { return {"dd", {Actual(v.hSpace), Actual(v.vSpace)}}; }
 Read Of(const LOGFONT& f) {
-  Read r("iiiiiiiiiiiiis", {Actual(f.lfHeight), Actual(f.lfWidth), Actual(f.lfEscapement), Actual(f.lfOrientation),
-                            Actual(f.lfWeight)});
+  Read r("iiiiiiiiiiiiis",
+         {Actual(f.lfHeight), Actual(f.lfWidth), Actual(f.lfEscapement), Actual(f.lfOrientation), Actual(f.lfWeight)});
   for (const uint8_t* b = &f.lfItalic; b <= &f.lfPitchAndFamily; ++b) r.values.push_back(Actual(*b));
   r.values.push_back(f.lfFaceName);
   return r;
@@ -169,7 +180,8 @@ LOGFONT Font(const Args& a) {
 
 // operator>> (or a Get... of a record) into a target that starts as `start`.
 template <class T>
-Reader Into(T start, std::function<void(CFFArchive&, T&)> read = [](CFFArchive& a, T& v) { a >> v; }) {
+Reader Into(
+    T start, std::function<void(CFFArchive&, T&)> read = [](CFFArchive& a, T& v) { a >> v; }) {
   return [start, read](CFFArchive& a) {
     T v = start;
     read(a, v);
@@ -187,71 +199,100 @@ LOGFONT FontStart() {
 
 const std::map<std::string, Reader>& Readers() {
   static const std::map<std::string, Reader> readers = {
-      {"byte", Scalar<uint8_t>(&CFFArchive::GetByte)},       {"short", Scalar<int16_t>(&CFFArchive::GetShort)},
-      {"long", Scalar<int32_t>(&CFFArchive::GetLong)},       {"float", Scalar<float>(&CFFArchive::GetFloat)},
-      {"double", Scalar<double>(&CFFArchive::GetDouble)},    {"string", Scalar<String>(&CFFArchive::GetString)},
-      {"bytes", Array<uint8_t>(&CFFArchive::GetByte)},       {"shorts", Array<int16_t>(&CFFArchive::GetShort)},
-      {"longs", Array<int32_t>(&CFFArchive::GetLong)},       {"floats", Array<float>(&CFFArchive::GetFloat)},
-      {"doubles", Array<double>(&CFFArchive::GetDouble)},    {"size", Into(CSize(-7, -7))},
-      {"rect", Into(CRect(-7, -7, -7, -7))},                 {"dpoint", Into(CDblPoint(-7, -7))},
-      {"drect", Into(CDblRect(-7, -7, -7, -7))},             {"time", Into(CTime(-1))},
-      {"date", Into(COleDateTime{-7.0, -7})},                {"font", Into(FontStart())},
-      {"point", Into<CDblPoint>(CDblPoint(-7, -7), [](CFFArchive& a, CDblPoint& p) { EXPECT_EQ(a.GetDblPoint(&p), 1); })},
-      {"hvspace", Into<_HVSpaceProp>(_HVSpaceProp{-7, -7}, [](CFFArchive& a, _HVSpaceProp& p) { EXPECT_EQ(a.GetHVSpaceProp(&p), 1); })},
+      {"byte", Scalar<uint8_t>(&CFFArchive::GetByte)},
+      {"short", Scalar<int16_t>(&CFFArchive::GetShort)},
+      {"long", Scalar<int32_t>(&CFFArchive::GetLong)},
+      {"float", Scalar<float>(&CFFArchive::GetFloat)},
+      {"double", Scalar<double>(&CFFArchive::GetDouble)},
+      {"string", Scalar<String>(&CFFArchive::GetString)},
+      {"bytes", Array<uint8_t>(&CFFArchive::GetByte)},
+      {"shorts", Array<int16_t>(&CFFArchive::GetShort)},
+      {"longs", Array<int32_t>(&CFFArchive::GetLong)},
+      {"floats", Array<float>(&CFFArchive::GetFloat)},
+      {"doubles", Array<double>(&CFFArchive::GetDouble)},
+      {"size", Into(CSize(-7, -7))},
+      {"rect", Into(CRect(-7, -7, -7, -7))},
+      {"dpoint", Into(CDblPoint(-7, -7))},
+      {"drect", Into(CDblRect(-7, -7, -7, -7))},
+      {"time", Into(CTime(-1))},
+      {"date", Into(COleDateTime{-7.0, -7})},
+      {"font", Into(FontStart())},
+      {"point",
+       Into<CDblPoint>(CDblPoint(-7, -7), [](CFFArchive& a, CDblPoint& p) { EXPECT_EQ(a.GetDblPoint(&p), 1); })},
+      {"hvspace", Into<_HVSpaceProp>(_HVSpaceProp{-7, -7},
+                                     [](CFFArchive& a, _HVSpaceProp& p) { EXPECT_EQ(a.GetHVSpaceProp(&p), 1); })},
   };
   return readers;
 }
 
-template <class T, class Parse> std::vector<T> Parsed(const Args& a, Parse parse) {
-  std::vector<T> v;
-  for (const std::string& s : a) v.push_back(static_cast<T>(parse(s)));
-  return v;
-}
 long long Int(const std::string& s) { return std::stoll(s); }
 float Flt(const std::string& s) { return std::strtof(s.c_str(), nullptr); }
 double Dbl(const std::string& s) { return std::strtod(s.c_str(), nullptr); }
 
-void Write(CFFArchive& a, const std::string& call) {
-  const std::string name = call.substr(0, call.find('('));
-  const Args x = Inner(call);
-  if (name == "Byte") a.PutByte(static_cast<uint8_t>(Int(x.at(0))));
-  else if (name == "Short") a.PutShort(static_cast<int16_t>(Int(x.at(0))));
-  else if (name == "Long") a.PutLong(static_cast<int32_t>(Int(x.at(0))));
-  else if (name == "Float") a.PutFloat(Flt(x.at(0)));
-  else if (name == "Double") a.PutDouble(Dbl(x.at(0)));
-  else if (name == "String") a.PutString(Unquote(x.at(0)).c_str());
-  else if (name == "Bytes") a.PutByte(Parsed<uint8_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
-  else if (name == "Binary") a.PutBinary(Parsed<uint8_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
-  else if (name == "Shorts") a.PutShort(Parsed<int16_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
-  else if (name == "Longs") a.PutLong(Parsed<int32_t>(x, Int).data(), static_cast<uint32_t>(x.size()));
-  else if (name == "Floats") a.PutFloat(Parsed<float>(x, Flt).data(), static_cast<uint32_t>(x.size()));
-  else if (name == "Doubles") a.PutDouble(Parsed<double>(x, Dbl).data(), static_cast<uint32_t>(x.size()));
-  else if (name == "CSize") a << CSize(std::stoi(x.at(0)), std::stoi(x.at(1)));
-  else if (name == "CRect") a << CRect(std::stoi(x.at(0)), std::stoi(x.at(1)), std::stoi(x.at(2)), std::stoi(x.at(3)));
-  else if (name == "CDblPoint") a << CDblPoint(Dbl(x.at(0)), Dbl(x.at(1)));
-  else if (name == "CDblRect") a << CDblRect(Dbl(x.at(0)), Dbl(x.at(1)), Dbl(x.at(2)), Dbl(x.at(3)));
-  else if (name == "CTime") a << CTime(Int(x.at(0)));
-  else if (name == "COleDateTime") a << COleDateTime{Dbl(x.at(0)), static_cast<int32_t>(Int(x.at(1)))};
-  else if (name == "LOGFONT") a << Font(x);
-  else if (name == "DblPoint") { const CDblPoint p(Dbl(x.at(0)), Dbl(x.at(1))); EXPECT_EQ(a.PutDblPoint(&p), 1); }
-  else if (name == "HVSpace") { const _HVSpaceProp p{Dbl(x.at(0)), Dbl(x.at(1))}; EXPECT_EQ(a.PutHVSpaceProp(&p), 1); }
-  else ADD_FAILURE() << "unknown writer " << call;
+using Writer = std::function<void(CFFArchive&, const Args&)>;
+template <class T, class Parse>
+Writer One(void (CFFArchive::*put)(T), Parse parse) {
+  return [=](CFFArchive& a, const Args& x) { (a.*put)(static_cast<T>(parse(x.at(0)))); };
+}
+template <class T, class Parse>
+Writer Many(void (CFFArchive::*put)(const T*, uint32_t), Parse parse) {
+  return [=](CFFArchive& a, const Args& x) {
+    std::vector<T> v;
+    for (const std::string& s : x) v.push_back(static_cast<T>(parse(s)));
+    (a.*put)(v.data(), static_cast<uint32_t>(v.size()));
+  };
 }
 
-std::string Stream(CFFArchive& a) {
-  uint32_t n = 0;
-  std::unique_ptr<uint8_t[]> data = a.ToData(n);
-  return std::string(reinterpret_cast<const char*>(data.get()), n);
+void Write(CFFArchive& a, const std::string& call) {
+  static const std::map<std::string, Writer> writers = {
+      {"Byte", One(&CFFArchive::PutByte, Int)},
+      {"Short", One(&CFFArchive::PutShort, Int)},
+      {"Long", One(&CFFArchive::PutLong, Int)},
+      {"Float", One(&CFFArchive::PutFloat, Flt)},
+      {"Double", One(&CFFArchive::PutDouble, Dbl)},
+      {"String", [](CFFArchive& a, const Args& x) { a.PutString(Unquote(x.at(0)).c_str()); }},
+      {"Bytes", Many(&CFFArchive::PutByte, Int)},
+      {"Shorts", Many(&CFFArchive::PutShort, Int)},
+      {"Longs", Many(&CFFArchive::PutLong, Int)},
+      {"Floats", Many(&CFFArchive::PutFloat, Flt)},
+      {"Doubles", Many(&CFFArchive::PutDouble, Dbl)},
+      {"Binary",
+       [](CFFArchive& a, const Args& x) {
+         std::string b;
+         for (const std::string& s : x) b += static_cast<char>(Int(s));
+         a.PutBinary(b.data(), static_cast<uint32_t>(b.size()));
+       }},
+      {"CSize", [](CFFArchive& a, const Args& x) { a << CSize(std::stoi(x.at(0)), std::stoi(x.at(1))); }},
+      {"CRect",
+       [](CFFArchive& a, const Args& x) {
+         a << CRect(std::stoi(x.at(0)), std::stoi(x.at(1)), std::stoi(x.at(2)), std::stoi(x.at(3)));
+       }},
+      {"CDblPoint", [](CFFArchive& a, const Args& x) { a << CDblPoint(Dbl(x.at(0)), Dbl(x.at(1))); }},
+      {"CDblRect",
+       [](CFFArchive& a, const Args& x) { a << CDblRect(Dbl(x.at(0)), Dbl(x.at(1)), Dbl(x.at(2)), Dbl(x.at(3))); }},
+      {"CTime", [](CFFArchive& a, const Args& x) { a << CTime(Int(x.at(0))); }},
+      {"COleDateTime",
+       [](CFFArchive& a, const Args& x) {
+         a << COleDateTime{Dbl(x.at(0)), static_cast<int32_t>(Int(x.at(1)))};
+       }},
+      {"LOGFONT", [](CFFArchive& a, const Args& x) { a << Font(x); }},
+      {"DblPoint",
+       [](CFFArchive& a, const Args& x) {
+         const CDblPoint p(Dbl(x.at(0)), Dbl(x.at(1)));
+         EXPECT_EQ(a.PutDblPoint(&p), 1);
+       }},
+      {"HVSpace",
+       [](CFFArchive& a, const Args& x) {
+         const _HVSpaceProp p{Dbl(x.at(0)), Dbl(x.at(1))};
+         EXPECT_EQ(a.PutHVSpaceProp(&p), 1);
+       }},
+  };
+  writers.at(call.substr(0, call.find('(')))(a, Inner(call));
 }
 
 // True when exactly `n` bytes of the stream have been read.
 bool Consumed(CFFArchive& a, uint32_t n) {
   return n <= a.GetCount() && a.ReadUnit(nullptr, a.GetCount() - n) == 1 && a.ReadUnit(nullptr, 1) == 0;
-}
-
-CFFArchive& Loaded(CFFArchive& a, const std::string& bytes) {
-  a.FromData(bytes.data(), static_cast<uint32_t>(bytes.size()));
-  return a;
 }
 
 void CheckFile(const std::string& name) {
@@ -262,7 +303,7 @@ void CheckFile(const std::string& name) {
     if (g.writer != "-") {
       CFFArchive one;
       Write(one, g.writer);
-      EXPECT_EQ(Stream(one), g.bytes) << g.writer;
+      EXPECT_EQ(Bytes(one), g.bytes) << g.writer;
       Write(whole, g.writer);
       expected_whole += g.bytes;
     }
@@ -272,7 +313,8 @@ void CheckFile(const std::string& name) {
         {"byte", "bytes"}, {"short", "shorts"}, {"long", "longs"}, {"float", "floats"}, {"double", "doubles"}};
     const uint8_t tag = static_cast<uint8_t>(g.bytes[0]);
     for (const auto& kv : g.expect)
-      if ((tag < 20 || tag == 21) && array_form.count(kv.first)) expect.emplace_back(array_form.at(kv.first), "[" + kv.second + "]");
+      if ((tag < 20 || tag == 21) && array_form.count(kv.first))
+        expect.emplace_back(array_form.at(kv.first), "[" + kv.second + "]");
     for (const auto& kv : expect) {
       CFFArchive a;
       const Read got = Readers().at(kv.first)(Loaded(a, g.bytes));
@@ -282,12 +324,13 @@ void CheckFile(const std::string& name) {
       if (kv.second != "unchanged") {
         const Args parts = got.list ? Inner(kv.second) : Split(kv.second, ',');
         want.clear();
-        for (size_t i = 0; i < parts.size(); ++i) want.push_back(Expected(got.list ? got.types[0] : i < got.types.size() ? got.types[i] : 's', parts[i]));
+        for (size_t i = 0; i < parts.size(); ++i)
+          want.push_back(Expected(got.list ? got.types[0] : i < got.types.size() ? got.types[i] : 's', parts[i]));
       }
       EXPECT_EQ(got.values, want) << kv.first << "=" << kv.second;
     }
   }
-  EXPECT_EQ(Stream(whole), expected_whole) << name << " written as one stream";
+  EXPECT_EQ(Bytes(whole), expected_whole) << name << " written as one stream";
 }
 
 }  // namespace
@@ -305,7 +348,8 @@ TEST(ArchiveGolden, InvalidStreams) {
     SCOPED_TRACE(g.where);
     ASSERT_EQ(g.expect.size(), 2u);
     const String message = sGetInfoStr(std::stoi(g.expect[0].second));
-    for (const char* form : {"byte", "short", "long", "float", "double", "string", "bytes", "shorts", "longs", "floats", "doubles"}) {
+    for (const char* form :
+         {"byte", "short", "long", "float", "double", "string", "bytes", "shorts", "longs", "floats", "doubles"}) {
       CFFArchive a;
       const Read got = Readers().at(form)(Loaded(a, g.bytes));
       EXPECT_TRUE(got.values.empty() || got.values == Args{"0"} || got.values == Args{""}) << form;

@@ -101,11 +101,11 @@ class MAPCFG_EXPORT CFFArchive {
   // --- Scalar values ------------------------------------------------------------
   // Writers store the tag, the count for blocks, then the payload, and clear
   // the error flag when they return.
-  void PutByte(uint8_t value);    // tag 1
-  void PutShort(int16_t value);   // tag 2
-  void PutLong(int32_t value);    // tag 3
-  void PutFloat(float value);     // tag 4
-  void PutDouble(double value);   // tag 5
+  void PutByte(uint8_t value);   // tag 1
+  void PutShort(int16_t value);  // tag 2
+  void PutLong(int32_t value);   // tag 3
+  void PutFloat(float value);    // tag 4
+  void PutDouble(double value);  // tag 5
   // Counted arrays (tags 31 to 35): the count n, then n elements. `values`
   // may be null only when n is 0 (a null block is stored as an empty one).
   void PutByte(const uint8_t* values, uint32_t n);
@@ -207,8 +207,7 @@ class MAPCFG_EXPORT CFFArchive {
   // with PutLong. Return 1.
   int PutDblPointArray(const std::vector<CDblPoint>& first, const std::vector<CDblPoint>* second = nullptr,
                        const std::vector<CDblPoint>* third = nullptr);
-  int PutStringArray(const StringArray& first, const StringArray* second = nullptr,
-                     const StringArray* third = nullptr);
+  int PutStringArray(const StringArray& first, const StringArray* second = nullptr, const StringArray* third = nullptr);
   int PutCharArray(const std::vector<char>& first, const std::vector<char>* second = nullptr,
                    const std::vector<char>* third = nullptr);
   int PutIntArray(const std::vector<int32_t>& first, const std::vector<int32_t>* second = nullptr,
@@ -223,8 +222,7 @@ class MAPCFG_EXPORT CFFArchive {
   int GetDblPointArray(std::vector<CDblPoint>& first, std::vector<CDblPoint>* second = nullptr,
                        std::vector<CDblPoint>* third = nullptr);
   int GetStringArray(StringArray& first, StringArray* second = nullptr, StringArray* third = nullptr);
-  int GetCharArray(std::vector<char>& first, std::vector<char>* second = nullptr,
-                   std::vector<char>* third = nullptr);
+  int GetCharArray(std::vector<char>& first, std::vector<char>* second = nullptr, std::vector<char>* third = nullptr);
   int GetIntArray(std::vector<int32_t>& first, std::vector<int32_t>* second = nullptr,
                   std::vector<int32_t>* third = nullptr);
   int GetDWordArray(std::vector<uint32_t>& first, std::vector<uint32_t>* second = nullptr,
@@ -242,7 +240,7 @@ class MAPCFG_EXPORT CFFArchive {
   friend struct detail::ArchiveCore;
 
   String error_text_;
-  uint8_t* block_ = nullptr;   // memory block (malloc'd), block_capacity_ bytes
+  uint8_t* block_ = nullptr;  // memory block (malloc'd), block_capacity_ bytes
   size_t block_capacity_ = 0;
   uint32_t block_length_ = 0;  // physical length: the highest position written
   uint32_t block_pos_ = 0;     // the block's position, shared by reads and writes
@@ -253,8 +251,8 @@ class MAPCFG_EXPORT CFFArchive {
 
 // Where an inspection stopped, for tools that show an archive.
 struct ArchiveListing {
-  String text;            // the TestData lines of every value read whole
-  bool complete = true;   // false when a value could not be read whole
+  String text;               // the TestData lines of every value read whole
+  bool complete = true;      // false when a value could not be read whole
   uint32_t stop_offset = 0;  // byte offset of that value's tag
   uint8_t stop_tag = 0;      // that tag
   String reason;             // the archive's error text for it
