@@ -20,6 +20,7 @@ struct Command {
 
 int RunScript(const Args& args);
 int RunCheck(const Args& args);
+int RunDump(const Args& args);
 int RunStrings(const Args& args);
 
 // Prints "mapcfg: " + message on stderr and returns `status`.

@@ -14,6 +14,7 @@ namespace {
 const Command kCommands[] = {
     {"script", "FILE [--block NAME] [--raw]", "list the blocks, keys and values a script yields", RunScript},
     {"check", "FILE...", "report what a script loses or does surprisingly, with file:line", RunCheck},
+    {"dump", "FILE [--offset N] [--raw]", "list the values of an archive file, tag by tag", RunDump},
     {"strings", "[--lang en|zh] [--help-rows] [--raw] [INDEX | --find TEXT]",
      "configuration strings (block and key names) by index, English and Chinese side by side", RunStrings},
 };
