@@ -35,6 +35,11 @@ int FileFailure(CFFArchive& a, const String& path, const char* action, int err) 
 
 }  // namespace
 
+void detail::ArchiveCore::Fail(CFFArchive& a, int message) {
+  a.error_ = 1;
+  a.error_text_ = sGetInfoStr(message);
+}
+
 bool detail::ArchiveCore::Grow(CFFArchive& a, uint64_t need) {
   // Doubling keeps appends amortised O(1) per byte; the block never shrinks.
   uint64_t capacity = std::max<uint64_t>({need, 2 * static_cast<uint64_t>(a.block_capacity_), kMinBlock});

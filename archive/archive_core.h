@@ -131,10 +131,8 @@ namespace detail {
 
 struct ArchiveCore {
   // Sets the error flag and takes information text `message` as the text.
-  static void Fail(CFFArchive& a, int message) {
-    a.error_ = 1;
-    a.error_text_ = sGetInfoStr(message);
-  }
+  // Out of line: it keeps the inline read and write paths small.
+  static void Fail(CFFArchive& a, int message);  // archive_buffer.cpp
   static bool HasError(const CFFArchive& a) { return a.error_ != 0; }
   static void ClearError(CFFArchive& a) { a.error_ = 0; }
   static uint32_t ReadPos(const CFFArchive& a) { return a.read_pos_; }

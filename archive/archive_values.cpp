@@ -52,15 +52,17 @@ void PutCounted(CFFArchive& a, Tag tag, const T* values, uint64_t n) {
 
 // One stored scalar or text, decoded from its payload.
 struct Stored {
-  uint8_t tag = 0;      // 1 to 5, or 21 for a text
-  int64_t integer = 0;  // tags 1 to 3
-  float single = 0;     // tag 4
-  double real = 0;      // tag 5
-  String text;          // tag 21
+  uint8_t tag = 0;             // 1 to 5, or 21 for a text
+  int64_t integer = 0;         // tags 1 to 3
+  float single = 0;            // tag 4
+  double real = 0;             // tag 5
+  const char* text = nullptr;  // tag 21: the text's bytes in the block,
+  size_t text_length = 0;      // up to its first NUL
+  String Text() const { return String(text, text_length); }
 };
 
 // The value of scalar tag `tag` at p, or of a text of `count` bytes.
-Stored Decode(uint8_t tag, const uint8_t* p, uint32_t count) {
+inline Stored Decode(uint8_t tag, const uint8_t* p, uint32_t count) {
   Stored v;
   v.tag = tag;
   switch (tag) {
@@ -82,7 +84,8 @@ Stored Decode(uint8_t tag, const uint8_t* p, uint32_t count) {
     default: {
       // A text ends at its first NUL, as the conversions see it.
       const void* nul = count ? std::memchr(p, 0, count) : nullptr;
-      v.text.assign(reinterpret_cast<const char*>(p), nul ? static_cast<const uint8_t*>(nul) - p : count);
+      v.text = reinterpret_cast<const char*>(p);
+      v.text_length = nul ? static_cast<size_t>(static_cast<const uint8_t*>(nul) - p) : count;
     }
   }
   return v;
@@ -125,7 +128,7 @@ struct IntegerRow {
     return Narrow<Int>(TruncateToInt64(static_cast<double>(v) + static_cast<double>(0.0005f)));
   }
   static Int FromDouble(double v) { return Narrow<Int>(TruncateToInt64(v + 5e-7)); }
-  static Int FromText(String& t) { return Narrow<Int>(sToInteger(t.c_str())); }
+  static Int FromText(const Stored& v) { return Narrow<Int>(sToInteger(v.Text().c_str())); }
 };
 
 template <class T>
@@ -141,14 +144,14 @@ struct Row<float> {
   static float FromInteger(int64_t v) { return static_cast<float>(v); }
   static float FromSingle(float v) { return v; }
   static float FromDouble(double v) { return NarrowToSingle(v); }
-  static float FromText(String& t) { return sToFloat(t.c_str()); }
+  static float FromText(const Stored& v) { return sToFloat(v.Text().c_str()); }
 };
 template <>
 struct Row<double> {
   static double FromInteger(int64_t v) { return static_cast<double>(v); }
   static double FromSingle(float v) { return v; }
   static double FromDouble(double v) { return v; }
-  static double FromText(String& t) { return sToDouble(t.c_str()); }
+  static double FromText(const Stored& v) { return sToDouble(v.Text().c_str()); }
 };
 template <>
 struct Row<String> {
@@ -156,11 +159,11 @@ struct Row<String> {
   static String FromInteger(int64_t v) { return sToString(static_cast<int>(v)); }
   static String FromSingle(float v) { return sToString(v); }
   static String FromDouble(double v) { return sToString(v); }
-  static String FromText(String& t) { return std::move(t); }
+  static String FromText(const Stored& v) { return v.Text(); }
 };
 
 template <class T>
-T Convert(Stored v) {
+inline T Convert(const Stored& v) {
   switch (v.tag) {
     case 1:
     case 2:
@@ -171,7 +174,7 @@ T Convert(Stored v) {
     case 5:
       return Row<T>::FromDouble(v.real);
     default:
-      return Row<T>::FromText(v.text);
+      return Row<T>::FromText(v);
   }
 }
 
@@ -184,23 +187,6 @@ struct RawValue {
   uint32_t count = 0;
   const uint8_t* payload = nullptr;
 };
-
-// Reads the tag and, for counted tags, the count. An unknown tag sets error
-// 840 after consuming the tag byte (tags below 20) or the tag and its count.
-bool ReadHead(CFFArchive& a, RawValue* v) {
-  const uint8_t* p = nullptr;
-  if (!ArchiveCore::Take(a, 1, &p)) return false;
-  v->tag = *p;
-  if (v->tag >= kFirstCountedTag) {
-    if (!ArchiveCore::Take(a, 4, &p)) return false;
-    v->count = LoadLE<uint32_t>(p);
-    if (v->tag == static_cast<uint8_t>(Tag::kString) || ElementTag(v->tag)) return true;
-  } else if (ScalarWidth(v->tag)) {
-    return true;
-  }
-  ArchiveCore::Fail(a, kMsgBadTag);
-  return false;
-}
 
 uint64_t PayloadBytes(const RawValue& v) {
   if (v.tag < kFirstCountedTag) return ScalarWidth(v.tag);
@@ -216,12 +202,35 @@ bool PayloadFits(CFFArchive& a, const RawValue& v) {
   return false;
 }
 
-bool ReadPayload(CFFArchive& a, RawValue* v) {
-  return PayloadFits(a, *v) && ArchiveCore::Take(a, static_cast<uint32_t>(PayloadBytes(*v)), &v->payload);
+// The rest of the head after a tag byte that is not a scalar: the count of
+// a counted tag. An unknown tag sets error 840 after consuming the tag byte
+// (tags below 20) or the tag and its count.
+bool ReadCountedHead(CFFArchive& a, RawValue* v) {
+  const uint8_t* p = nullptr;
+  if (v->tag >= kFirstCountedTag) {
+    if (!ArchiveCore::Take(a, 4, &p)) return false;
+    v->count = LoadLE<uint32_t>(p);
+    if (v->tag == static_cast<uint8_t>(Tag::kString) || ElementTag(v->tag)) return true;
+  }
+  ArchiveCore::Fail(a, kMsgBadTag);
+  return false;
 }
 
-// The next value, header and payload. False after any failure.
-bool ReadValue(CFFArchive& a, RawValue* v) { return ReadHead(a, v) && ReadPayload(a, v); }
+// Reads the tag and, for counted tags, the count.
+inline bool ReadHead(CFFArchive& a, RawValue* v) {
+  const uint8_t* p = nullptr;
+  if (!ArchiveCore::Take(a, 1, &p)) return false;
+  v->tag = *p;
+  return ScalarWidth(v->tag) != 0 || ReadCountedHead(a, v);
+}
+
+// The next value, head and payload. False after any failure.
+inline bool ReadValue(CFFArchive& a, RawValue* v) {
+  if (!ReadHead(a, v)) return false;
+  const uint32_t width = ScalarWidth(v->tag);
+  if (width) return ArchiveCore::Take(a, width, &v->payload);
+  return PayloadFits(a, *v) && ArchiveCore::Take(a, static_cast<uint32_t>(PayloadBytes(*v)), &v->payload);
+}
 
 // The element tag a block of T is stored under when read back unconverted.
 template <class T>
