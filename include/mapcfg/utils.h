@@ -187,6 +187,112 @@ constexpr char kDrawTextDown = 2;  // subscript
 // plain text (all pieces joined). Returns the number of pieces.
 MAPCFG_EXPORT int sDrawFmtText_DiviSubStr(String& text, StringArray& pieces, std::vector<char>& kinds);
 
+// --- Variant conversions ------------------------------------------------------
+// Cell values exchanged with database and spreadsheet interfaces arrive as
+// automation variants. These routines never fail: a type they do not handle
+// gives the empty String or 0.
+
+// Variant type tags, the platform's automation codes (never change).
+enum VariantType : uint16_t {
+  VT_EMPTY = 0,
+  VT_NULL = 1,
+  VT_I2 = 2,
+  VT_I4 = 3,
+  VT_R4 = 4,
+  VT_R8 = 5,
+  VT_CY = 6,
+  VT_DATE = 7,
+  VT_BSTR = 8,
+  VT_ERROR = 10,
+  VT_BOOL = 11,
+  VT_VARIANT = 12,
+  VT_DECIMAL = 14,
+  VT_I1 = 16,
+  VT_UI1 = 17,
+  VT_UI2 = 18,
+  VT_UI4 = 19,
+};
+
+// Currency: the 64-bit integer Hi * 2^32 + Lo, in units of 1/10000.
+struct CY {
+  uint32_t Lo;
+  int32_t Hi;
+};
+
+// 96-bit decimal: (Hi32 * 2^64 + Lo64) / 10^scale, negative when sign is 128.
+struct DECIMAL {
+  uint16_t wReserved;
+  uint8_t scale;
+  uint8_t sign;
+  uint32_t Hi32;
+  uint64_t Lo64;
+};
+
+// An automation variant: the type tag `vt` and the value in the member the
+// tag names. A default VARIANT is VT_EMPTY with every value byte 0. Members
+// share their storage from its first byte, as on the platform: VT_I1 and
+// VT_UI1 values are read through the 16-bit field, so the byte above cVal or
+// bVal should be 0 (it is, in a VARIANT that started from the default).
+// `date` counts days since 1899-12-30 00:00; the fraction is the time of day,
+// and for a negative date it counts from midnight forwards like a positive
+// one (-1.25 is 1899-12-29 06:00). `bstrVal` is NUL-terminated UTF-16 text
+// owned by the caller; the library never frees it, and null reads as "".
+struct VARIANT {
+  uint16_t vt = VT_EMPTY;
+  union {
+    DECIMAL decVal = {};
+    char cVal;
+    uint8_t bVal;
+    int16_t iVal;
+    uint16_t uiVal;
+    int32_t lVal;
+    uint32_t ulVal;
+    float fltVal;
+    double dblVal;
+    int16_t boolVal;  // VARIANT_BOOL: -1 true, 0 false
+    CY cyVal;
+    double date;
+    const char16_t* bstrVal;
+  };
+};
+
+// The variant as text:
+//   VT_I2, VT_I1: the 16-bit signed value; VT_UI1, VT_UI2: the 16-bit
+//   unsigned value; VT_I4, VT_UI4: the 32-bit value, signed or unsigned;
+//   VT_R4, VT_R8: sToString of the float or double;
+//   VT_CY: the amount with up to 4 decimals, trailing zeros removed
+//   ("1234.5678", "-0.5", "7");
+//   VT_DATE: "YYYY-MM-DD hh:mm:ss" rounded to the second, or "YYYY-MM-DD"
+//   at midnight ("2006-03-15 14:30:45", "1899-12-30"); empty for dates
+//   outside the years 100 to 9999 (whole days -657434 to 2958465);
+//   VT_BSTR: ASCII characters as they are, every other character
+//   (a surrogate pair counts as one) as "?", since the code page is unknown;
+//   VT_BOOL: "1" or "0";
+//   VT_DECIMAL: sToString of the double described at sVar2Dbl.
+// Any other tag gives the empty String. Never depends on the host's locale.
+MAPCFG_EXPORT void sVar2Str(const VARIANT& var, String& out);
+// The variant as a number:
+//   16-bit and 32-bit integers: their values (VT_UI4 as unsigned);
+//   VT_R4, VT_R8: the value; VT_CY: Lo * 0.0001 + Hi (the packing older
+//   versions wrote, not the amount); VT_DATE: YYYYMMDD.hhmmss as
+//   year * 10000 + month * 100 + day + hour * 0.01 + minute * 0.0001 +
+//   second * 0.000001 (0 outside the years 100 to 9999); VT_BSTR: sStdNumber
+//   then sToDouble; VT_BOOL: 1 or 0; VT_DECIMAL: Lo64 read as a signed 64-bit
+//   integer through sInt64ToDouble, negated when sign is 128, divided by
+//   10^scale (Hi32 is not used). Any other tag gives 0.
+MAPCFG_EXPORT void sVar2Dbl(const VARIANT& var, double& out);
+// As sVar2Dbl narrowed to float; VT_BSTR goes through sToFloat.
+MAPCFG_EXPORT void sVar2Flt(const VARIANT& var, float& out);
+// As sVar2Dbl except: VT_UI4 gives its 32-bit pattern; VT_R4, VT_R8 and
+// VT_DECIMAL trunc(value + 0.5); VT_CY its Hi; VT_DATE YYYYMMDD; VT_BSTR
+// sStdNumber then sToInteger. Results beyond 32 bits give INT_MIN or INT_MAX.
+MAPCFG_EXPORT void sVar2Long(const VARIANT& var, int32_t& out);
+// As sVar2Long except that VT_R4, VT_R8 and VT_DECIMAL use sToInteger(double)
+// (+0.49 / -0.5).
+MAPCFG_EXPORT void sVar2Int(const VARIANT& var, int& out);
+// sVar2Int, then true when non-zero.
+MAPCFG_EXPORT void sVar2Bool(const VARIANT& var, bool& out);
+
 }  // namespace mapcfg
 
 #endif  // MAPCFG_UTILS_H_
