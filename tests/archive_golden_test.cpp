@@ -217,10 +217,9 @@ const std::map<std::string, Reader>& Readers() {
       {"time", Into(CTime(-1))},
       {"date", Into(COleDateTime{-7.0, -7})},
       {"font", Into(FontStart())},
-      {"point",
-       Into<CDblPoint>(CDblPoint(-7, -7), [](CFFArchive& a, CDblPoint& p) { EXPECT_EQ(a.GetDblPoint(&p), 1); })},
-      {"hvspace", Into<_HVSpaceProp>(_HVSpaceProp{-7, -7},
-                                     [](CFFArchive& a, _HVSpaceProp& p) { EXPECT_EQ(a.GetHVSpaceProp(&p), 1); })},
+      {"point", Into<CDblPoint>({-7, -7}, [](CFFArchive& a, CDblPoint& p) { EXPECT_EQ(a.GetDblPoint(&p), 1); })},
+      {"hvspace",
+       Into<_HVSpaceProp>({-7, -7}, [](CFFArchive& a, _HVSpaceProp& p) { EXPECT_EQ(a.GetHVSpaceProp(&p), 1); })},
   };
   return readers;
 }
@@ -228,20 +227,29 @@ const std::map<std::string, Reader>& Readers() {
 long long Int(const std::string& s) { return std::stoll(s); }
 float Flt(const std::string& s) { return std::strtof(s.c_str(), nullptr); }
 double Dbl(const std::string& s) { return std::strtod(s.c_str(), nullptr); }
+template <class T, class Parse>
+std::vector<T> All(const Args& x, Parse parse) {
+  std::vector<T> v;
+  for (const std::string& s : x) v.push_back(static_cast<T>(parse(s)));
+  return v;
+}
+template <class T>
+const T* Ptr(const T& v) {  // for a temporary that lives to the end of the call
+  return &v;
+}
 
-using Writer = std::function<void(CFFArchive&, const Args&)>;
+using W = const Args&;
+using Writer = std::function<void(CFFArchive&, W)>;
 template <class T, class Parse>
 Writer One(void (CFFArchive::*put)(T), Parse parse) {
-  return [=](CFFArchive& a, const Args& x) { (a.*put)(static_cast<T>(parse(x.at(0)))); };
+  return [=](CFFArchive& a, W x) { (a.*put)(static_cast<T>(parse(x.at(0)))); };
 }
 template <class T, class Parse>
 Writer Many(void (CFFArchive::*put)(const T*, uint32_t), Parse parse) {
-  return [=](CFFArchive& a, const Args& x) {
-    std::vector<T> v;
-    for (const std::string& s : x) v.push_back(static_cast<T>(parse(s)));
-    (a.*put)(v.data(), static_cast<uint32_t>(v.size()));
-  };
+  return [=](CFFArchive& a, W x) { (a.*put)(All<T>(x, parse).data(), static_cast<uint32_t>(x.size())); };
 }
+int32_t I(W x, size_t i) { return static_cast<int32_t>(Int(x.at(i))); }
+double D(W x, size_t i) { return Dbl(x.at(i)); }
 
 void Write(CFFArchive& a, const std::string& call) {
   static const std::map<std::string, Writer> writers = {
@@ -250,41 +258,27 @@ void Write(CFFArchive& a, const std::string& call) {
       {"Long", One(&CFFArchive::PutLong, Int)},
       {"Float", One(&CFFArchive::PutFloat, Flt)},
       {"Double", One(&CFFArchive::PutDouble, Dbl)},
-      {"String", [](CFFArchive& a, const Args& x) { a.PutString(Unquote(x.at(0)).c_str()); }},
+      {"String", [](CFFArchive& a, W x) { a.PutString(Unquote(x.at(0)).c_str()); }},
       {"Bytes", Many(&CFFArchive::PutByte, Int)},
       {"Shorts", Many(&CFFArchive::PutShort, Int)},
       {"Longs", Many(&CFFArchive::PutLong, Int)},
       {"Floats", Many(&CFFArchive::PutFloat, Flt)},
       {"Doubles", Many(&CFFArchive::PutDouble, Dbl)},
-      {"Binary",
-       [](CFFArchive& a, const Args& x) {
-         std::string b;
-         for (const std::string& s : x) b += static_cast<char>(Int(s));
-         a.PutBinary(b.data(), static_cast<uint32_t>(b.size()));
-       }},
-      {"CSize", [](CFFArchive& a, const Args& x) { a << CSize(std::stoi(x.at(0)), std::stoi(x.at(1))); }},
-      {"CRect",
-       [](CFFArchive& a, const Args& x) {
-         a << CRect(std::stoi(x.at(0)), std::stoi(x.at(1)), std::stoi(x.at(2)), std::stoi(x.at(3)));
-       }},
-      {"CDblPoint", [](CFFArchive& a, const Args& x) { a << CDblPoint(Dbl(x.at(0)), Dbl(x.at(1))); }},
-      {"CDblRect",
-       [](CFFArchive& a, const Args& x) { a << CDblRect(Dbl(x.at(0)), Dbl(x.at(1)), Dbl(x.at(2)), Dbl(x.at(3))); }},
-      {"CTime", [](CFFArchive& a, const Args& x) { a << CTime(Int(x.at(0))); }},
+      {"Binary", [](CFFArchive& a, W x) { a.PutBinary(All<uint8_t>(x, Int).data(), static_cast<uint32_t>(x.size())); }},
+      {"CSize", [](CFFArchive& a, W x) { a << CSize(I(x, 0), I(x, 1)); }},
+      {"CRect", [](CFFArchive& a, W x) { a << CRect(I(x, 0), I(x, 1), I(x, 2), I(x, 3)); }},
+      {"CDblPoint", [](CFFArchive& a, W x) { a << CDblPoint(D(x, 0), D(x, 1)); }},
+      {"CDblRect", [](CFFArchive& a, W x) { a << CDblRect(D(x, 0), D(x, 1), D(x, 2), D(x, 3)); }},
+      {"CTime", [](CFFArchive& a, W x) { a << CTime(Int(x.at(0))); }},
       {"COleDateTime",
-       [](CFFArchive& a, const Args& x) {
-         a << COleDateTime{Dbl(x.at(0)), static_cast<int32_t>(Int(x.at(1)))};
+       [](CFFArchive& a, W x) {
+         a << COleDateTime{D(x, 0), I(x, 1)};
        }},
-      {"LOGFONT", [](CFFArchive& a, const Args& x) { a << Font(x); }},
-      {"DblPoint",
-       [](CFFArchive& a, const Args& x) {
-         const CDblPoint p(Dbl(x.at(0)), Dbl(x.at(1)));
-         EXPECT_EQ(a.PutDblPoint(&p), 1);
-       }},
+      {"LOGFONT", [](CFFArchive& a, W x) { a << Font(x); }},
+      {"DblPoint", [](CFFArchive& a, W x) { EXPECT_EQ(a.PutDblPoint(Ptr(CDblPoint(D(x, 0), D(x, 1)))), 1); }},
       {"HVSpace",
-       [](CFFArchive& a, const Args& x) {
-         const _HVSpaceProp p{Dbl(x.at(0)), Dbl(x.at(1))};
-         EXPECT_EQ(a.PutHVSpaceProp(&p), 1);
+       [](CFFArchive& a, W x) {
+         EXPECT_EQ(a.PutHVSpaceProp(Ptr(_HVSpaceProp{D(x, 0), D(x, 1)})), 1);
        }},
   };
   writers.at(call.substr(0, call.find('(')))(a, Inner(call));
