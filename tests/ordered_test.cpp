@@ -12,20 +12,15 @@ using namespace mapcfg;
 
 TEST(Ordered, SearchResultsAndRanges) {
   const std::vector<int32_t> a{10, 20, 30};
-  EXPECT_EQ(sAscFind(a, 20), 1);
-  EXPECT_EQ(sAscFind(a, 25), -3);
-  EXPECT_EQ(sAscFind(a, 5), -1);
-  EXPECT_EQ(sAscFind(a, 40), -4);
+  const int32_t keys[] = {20, 25, 5, 40};
+  const int found[] = {1, -3, -1, -4};
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(sAscFind(a, keys[i]), found[i]) << keys[i];
   EXPECT_EQ(sAscFind(std::vector<int32_t>{}, 7), -1);
-  EXPECT_EQ(sAscFind(a, 10, 1, 3), -2);   // only [1, 3) is searched
-  EXPECT_EQ(sAscFind(a, 30, 0, 2), -3);
-  EXPECT_EQ(sAscFind(a, 30, 2, 1), -3);   // an empty range gives ~first
-  EXPECT_EQ(sAscFind(a, 30, 3, 3), -4);
+  EXPECT_EQ(sAscFind(a, 10, 1, 3), -2);  // only [1, 3) is searched
+  EXPECT_EQ(sAscFind(a, 30, 2, 1), -3);  // an empty range gives ~first
   EXPECT_THROW(sAscFind(a, 30, 0, 4), std::out_of_range);
   EXPECT_THROW(sAscFind(a, 30, -1, 2), std::out_of_range);
-  EXPECT_THROW(sAscFind(a, 30, 4), std::out_of_range);
   EXPECT_EQ(sDescFind(std::vector<int32_t>{30, 20, 10}, 25), -2);
-  EXPECT_EQ(sDescFind(std::vector<int32_t>{30, 20, 10}, 10), 2);
 
   // Among equal elements the first probed one comes back; the lower bound
   // moves to mid, not past it.
@@ -54,28 +49,27 @@ TEST(Ordered, SearchResultsAndRanges) {
 
 TEST(Ordered, InsertionModes) {
   std::vector<int32_t> a{10, 20, 30};
-  EXPECT_EQ(sAscInsert(a, 20, 0), 2);
+  EXPECT_EQ(sAscInsert(a, 20, 0), 2);  // after the equal one found
   EXPECT_EQ(a, (std::vector<int32_t>{10, 20, 20, 30}));
   a = {10, 20, 30};
   EXPECT_EQ(sAscInsert(a, 20, -1), 1);
   EXPECT_EQ(a.size(), 3u);
-  std::vector<int16_t> s{-3, 8};
-  EXPECT_EQ(sAscInsert(s, int16_t{8}, 1), 1);
-  EXPECT_EQ(sAscInsert(s, int16_t{0}, 1), 1);
-  EXPECT_EQ(s, (std::vector<int16_t>{-3, 0, 8}));
   std::vector<int32_t> empty;
   EXPECT_EQ(sAscInsert(empty, 4, 0), 0);
-  EXPECT_EQ(empty, std::vector<int32_t>{4});
 
-  // Replacing keeps the stored element's identity only for the key: points.
-  std::vector<CPoint> pts;
-  sAscInsertByXX(pts, CPoint(5, 1), 0);
-  sAscInsertByXX(pts, CPoint(2, 9), 0);
+  // Replacing overwrites the whole element found by its key.
+  std::vector<CPoint> pts{CPoint(2, 9), CPoint(5, 1)};
   EXPECT_EQ(sAscInsertByXX(pts, CPoint(5, 7), 1), 1);
-  EXPECT_EQ(pts, (std::vector<CPoint>{CPoint(2, 9), CPoint(5, 7)}));
   EXPECT_EQ(sDescInsertByYY(pts, CPoint(0, 8), 0), 1);
+  EXPECT_EQ(pts, (std::vector<CPoint>{CPoint(2, 9), CPoint(0, 8), CPoint(5, 7)}));
   EXPECT_EQ(sAscFindByYY(std::vector<CPoint>{CPoint(9, 1), CPoint(0, 4)}, 4), 1);
   EXPECT_EQ(sDescFindByXX(std::vector<CPoint>{CPoint(5, 0), CPoint(2, 0)}, 0), -3);
+
+  // Chars compare as signed.
+  std::vector<char> c;
+  for (char x : {'A', static_cast<char>(0xE9), 'z', static_cast<char>(0x80)}) sAscInsert(c, x, 0);
+  EXPECT_EQ(c, (std::vector<char>{static_cast<char>(0x80), static_cast<char>(0xE9), 'A', 'z'}));
+  EXPECT_EQ(sDescFind(std::vector<char>{'A', static_cast<char>(0xE9)}, static_cast<char>(0xE9)), 1);
 
   // Keeping every insertion in order sorts, for each direction and mode.
   std::mt19937 rng(9);
@@ -94,84 +88,52 @@ TEST(Ordered, InsertionModes) {
   EXPECT_EQ(sAscFind(up, up.back() + 1), ~static_cast<int>(up.size()));
 }
 
-TEST(Ordered, CharsCompareSigned) {
-  std::vector<char> c;
-  for (char x : {'A', static_cast<char>(0xE9), 'z', static_cast<char>(0x80), '0'}) sAscInsert(c, x, 0);
-  EXPECT_EQ(c, (std::vector<char>{static_cast<char>(0x80), static_cast<char>(0xE9), '0', 'A', 'z'}));
-  EXPECT_EQ(sAscFind(c, static_cast<char>(0xE9)), 1);
-  std::vector<char> d;
-  for (char x : {'A', static_cast<char>(0xE9), '0'}) sDescInsert(d, x, 0);
-  EXPECT_EQ(d, (std::vector<char>{'A', '0', static_cast<char>(0xE9)}));
-  EXPECT_EQ(sDescFind(d, static_cast<char>(0xE9)), 2);
-  EXPECT_EQ(sAscFind(std::vector<uint8_t>{1, 0xE9}, uint8_t{0xE9}), 1);
-  EXPECT_EQ(sDescFind(std::vector<uint16_t>{900, 3}, uint16_t{3}), 1);
-}
-
 TEST(Ordered, TolerantKeys) {
   const std::vector<double> one{1.0};
-  EXPECT_EQ(sAscFind(one, 1.0, 0.0), -1);
-  EXPECT_EQ(sAscFind(one, 1.0, 0.001), 0);
+  EXPECT_EQ(sAscFind(one, 1.0, 0.0), -1);  // a tolerance of 0 matches nothing
   EXPECT_EQ(sAscFind(one, 1.0005, 0.001), 0);
   EXPECT_EQ(sDescFind(one, 1.0, 0.0), -1);
   std::vector<double> d{1.0, 2.0};
-  EXPECT_EQ(sAscInsert(d, 2.0, 0, 0.0), 1);  // nothing matches: in front of the equal one
+  EXPECT_EQ(sAscInsert(d, 2.0, 0, 0.0), 1);  // in front of the equal one
   EXPECT_EQ(sAscInsert(d, 2.0004, -1, 0.001), 1);
-  EXPECT_EQ(d.size(), 3u);
   EXPECT_EQ(sAscInsert(d, 0.9995, 1, 0.001), 0);
   EXPECT_EQ(d, (std::vector<double>{0.9995, 2.0, 2.0}));
   std::vector<float> f{3.0f, 1.0f};
   EXPECT_EQ(sDescFind(f, 1.0004f, 0.0005f), 1);
   EXPECT_EQ(sDescInsert(f, 2.0f, 0, 0.0005f), 1);
-  EXPECT_EQ(sAscFind(std::vector<float>{1.0f}, 2.0f, 0.5f), -2);
-
   const double plain[] = {5.0, 4.0, 1.0};
-  EXPECT_EQ(sDescFind(plain, 4.0, 0, 3, 1e-9), 1);
   EXPECT_EQ(sDescFind(plain, 4.5, 0, 3, 1e-9), -2);
   EXPECT_EQ(sAscFind(plain + 2, 1.0, 0, 1, 1e-9), 0);
-  EXPECT_EQ(sAscFind(plain, 1.0, 0, -1, 1e-9), -1);
   EXPECT_THROW(sAscFind(plain, 1.0, -1, 2, 1e-9), std::out_of_range);
 }
 
 TEST(Ordered, DoublePoints) {
-  std::vector<CDblPoint> v;
-  sAscInsertByXX(v, CDblPoint(3, 0), 0, 1e-6);
-  sAscInsertByXX(v, CDblPoint(1, 5), 0, 1e-6);
+  std::vector<CDblPoint> v{CDblPoint(1, 5), CDblPoint(3, 0)};
   EXPECT_EQ(sAscInsertByXX(v, CDblPoint(1.0000001, 9), 1, 1e-6), 0);
   EXPECT_EQ(v[0].y, 9.0);
   EXPECT_EQ(sAscFindByXX(v, 3.0, 1e-6), 1);
-  EXPECT_EQ(sDescFindByYY(v, 3.0, 1e-6), -2);  // y: 9, 0
-  EXPECT_EQ(sDescInsertByYY(v, CDblPoint(7, 4), 0, 1e-6), 1);
-  EXPECT_EQ(sDescFindByYY(v, 4.0, 1e-6, 1), 1);
+  EXPECT_EQ(sDescInsertByYY(v, CDblPoint(7, 4), 0, 1e-6), 1);  // y: 9, 4, 0
   EXPECT_EQ(sDescFindByYY(v, 4.0, 1e-6, 2), -3);
   EXPECT_EQ(sDescFindByXX(std::vector<CDblPoint>{CDblPoint(9, 0), CDblPoint(2, 0)}, 2.0, 0.1), 1);
-  std::vector<CDblPoint> w{CDblPoint(4, 4)};
-  EXPECT_EQ(sAscInsertByYY(w, CDblPoint(0, 4), 0, 0.0), 0);
 
   // Plain arrays: the caller's buffer grows by one in place.
   CDblPoint buf[4];
   int count = 0;
-  EXPECT_EQ(sAscInsertByXX(buf, count, CDblPoint(2, 0), 0, 1e-6), 0);
+  sAscInsertByXX(buf, count, CDblPoint(2, 0), 0, 1e-6);
   EXPECT_EQ(sAscInsertByXX(buf, count, CDblPoint(1, 0), 0, 1e-6), 0);
   EXPECT_EQ(sAscInsertByXX(buf, count, CDblPoint(2, 7), -1, 1e-6), 1);
-  EXPECT_EQ(sDescInsertByYY(buf, count, CDblPoint(5, 3), 0, 1e-6), 0);  // [0] was y 0 already
+  EXPECT_EQ(sDescInsertByYY(buf, count, CDblPoint(5, 3), 0, 1e-6), 0);
   EXPECT_EQ(count, 3);
-  EXPECT_EQ(buf[0].x, 5.0);
-  EXPECT_EQ(buf[1].x, 1.0);
-  EXPECT_EQ(buf[2].x, 2.0);
-  EXPECT_EQ(sAscFindByXX(buf + 1, 2.0, 0, 2, 1e-6), 1);
-  EXPECT_EQ(sDescFindByYY(buf, 3.0, 0, 3, 1e-6), 0);
+  EXPECT_EQ(buf[0].x + buf[1].x * 10 + buf[2].x * 100, 215.0);  // x: 5, 1, 2
   EXPECT_EQ(sAscFindByYY(buf + 1, 1.0, 0, 2, 1e-6), -3);
-  EXPECT_EQ(sDescInsertByXX(buf, count, CDblPoint(9, 9), 1, 1e-6), 0);
-  EXPECT_EQ(count, 4);
+  EXPECT_EQ(sDescFindByYY(buf, 3.0, 0, 3, 1e-6), 0);
 
   // By x, then by y among the points whose x matches within the tolerance.
   const std::vector<CDblPoint> xy{CDblPoint(0, 5), CDblPoint(1, 1), CDblPoint(1, 2), CDblPoint(1.0000001, 3),
                                   CDblPoint(2, 0)};
-  EXPECT_EQ(sAscFindByXY(xy, CDblPoint(1, 3), 1e-6), 3);
-  EXPECT_EQ(sAscFindByXY(xy, CDblPoint(1, 1), 1e-6), 1);
-  EXPECT_EQ(sAscFindByXY(xy, CDblPoint(1, 2.5), 1e-6), -4);
-  EXPECT_EQ(sAscFindByXY(xy, CDblPoint(0, 1), 1e-6), -1);
-  EXPECT_EQ(sAscFindByXY(xy, CDblPoint(3, 1), 1e-6), -6);
+  const CDblPoint keys[] = {CDblPoint(1, 3), CDblPoint(1, 1), CDblPoint(1, 2.5), CDblPoint(0, 1), CDblPoint(3, 1)};
+  const int found[] = {3, 1, -4, -1, -6};
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(sAscFindByXY(xy, keys[i], 1e-6), found[i]) << i;
 }
 
 TEST(Ordered, Texts) {
@@ -185,32 +147,25 @@ TEST(Ordered, Texts) {
   EXPECT_EQ(sAscFind(nocase, "BANANA", 1), 2);
   EXPECT_EQ(sAscFind(nocase, "BANANA", 0), -1);  // byte order: "BANANA" before "_x"
   EXPECT_EQ(sAscFind(nocase, "banana2", 1), -4);
-  EXPECT_EQ(sAscFind(nocase, "Banan", 1), -3);
   StringArray down;
-  for (const char* t : {"b", "C", "a"}) sDescInsert(down, t, 0, 1);
-  EXPECT_EQ(down, (StringArray{"C", "b", "a"}));
-  EXPECT_EQ(sDescFind(down, "B", 1), 1);
-  EXPECT_EQ(sDescInsert(down, "B", 1, 1), 1);
-  EXPECT_EQ(down[1], "B");
+  for (const char* t : {"b", "C", "a", "B"}) sDescInsert(down, t, 1, 1);
+  EXPECT_EQ(down, (StringArray{"C", "B", "a"}));
 
   // Code and text pairs: signed code first, then the text without case.
   const std::vector<char> codes{static_cast<char>(0x90), 'A', 'A', 'B'};
   const StringArray names{"zz", "alpha", "Beta", "a"};
   EXPECT_EQ(sAscFind(codes, names, 'A', "BETA"), 2);
-  EXPECT_EQ(sAscFind(codes, names, 'A', "ALPHA"), 1);
   EXPECT_EQ(sAscFind(codes, names, 'A', "c"), -4);
   EXPECT_EQ(sAscFind(codes, names, static_cast<char>(0x90), "zz"), 0);
   EXPECT_THROW(sAscFind(codes, StringArray{"zz"}, 'A', "x", 0, 2), std::out_of_range);
 
   StringArray loose{"b", "A"};
   EXPECT_EQ(sNoSortFind(loose, "a", 0), -1);
-  EXPECT_EQ(sNoSortFind(loose, "a", 1), 1);
-  EXPECT_EQ(sNoSortInsert(loose, "c", 0, 0), -1);
+  EXPECT_EQ(sNoSortInsert(loose, "c", 0, 0), -1);  // -1: added at the end
+  EXPECT_EQ(sNoSortInsert(loose, "a", 0, 1), 1);   // found, kept
   EXPECT_EQ(loose, (StringArray{"b", "A", "c"}));
-  EXPECT_EQ(sNoSortInsert(loose, "a", 0, 1), 1);
-  EXPECT_EQ(loose[1], "A");
-  EXPECT_EQ(sNoSortInsert(loose, "a", 1, 1), 1);
-  EXPECT_EQ(loose, (StringArray{"b", "a", "c"}));
+  EXPECT_EQ(sNoSortInsert(loose, "a", 1, 1), 1);  // found, overwritten
+  EXPECT_EQ(loose[1], "a");
 }
 
 TEST(Ordered, PointerSetsAndCopies) {
@@ -220,62 +175,38 @@ TEST(Ordered, PointerSetsAndCopies) {
   std::vector<void*> sorted;
   sAscInsertArray(sorted, {p[4], p[1], p[4]});
   sAscInsertArray(sorted, {p[0], p[1]});
-  EXPECT_EQ(sorted, (std::vector<void*>{p[0], p[1], p[4]}));
   sAscInsertArray(sorted, sorted);
-  EXPECT_EQ(sorted.size(), 3u);
+  EXPECT_EQ(sorted, (std::vector<void*>{p[0], p[1], p[4]}));
   EXPECT_EQ(sAscFindArray(sorted, {p[2], p[4]}), 1);
-  EXPECT_EQ(sAscFindArray(sorted, {p[2], p[3]}), 0);
-  EXPECT_EQ(sAscFindArray(sorted, {}), 0);
+  EXPECT_EQ(sAscFindArray(sorted, {p[2], p[3]}) + sAscFindArray(sorted, {}), 0);
 
   std::vector<void*> d{p[5]};
   sCopyPtrArray(d, sorted, 0, 1, 0, -1);
   EXPECT_EQ(d, (std::vector<void*>{p[5], p[4], p[1], p[0]}));
   sCopyPtrArray(d, sorted, 1, 0, 1, 1);  // inclusive range
-  EXPECT_EQ(d, std::vector<void*>{p[1]});
   sCopyPtrArray(d, sorted, 0, 0, 2, 1);  // first > last copies nothing
-  EXPECT_EQ(d.size(), 1u);
+  EXPECT_EQ(d, std::vector<void*>{p[1]});
   EXPECT_THROW(sCopyPtrArray(d, sorted, 1, 0, 1, 3), std::out_of_range);
   EXPECT_EQ(d.size(), 1u);  // nothing changed before the throw
-  sCopyPtrArray(d, d, 0, 0);  // a source that is the destination
-  EXPECT_EQ(d.size(), 2u);
-
   std::vector<CDblPoint> pts{CDblPoint(1, 1), CDblPoint(2, 2), CDblPoint(3, 3)};
-  std::vector<CDblPoint> out{CDblPoint(9, 9)};
-  sCopyPoints(out, pts, 1, 1, 1);
-  ASSERT_EQ(out.size(), 2u);
-  EXPECT_EQ(out[0].x, 3.0);
-  EXPECT_EQ(out[1].x, 2.0);
-  sCopyPoints(pts, pts, 1, 1);
+  sCopyPoints(pts, pts, 1, 1);  // a source that is the destination
   ASSERT_EQ(pts.size(), 3u);
   EXPECT_EQ(pts[0].x, 3.0);
 }
 
 TEST(Ordered, AccessTextOrder) {
-  EXPECT_EQ(sCmpStrByAccess("", ""), 0);
-  EXPECT_EQ(sCmpStrByAccess("abc", "ABC"), 0);
-  EXPECT_EQ(sCmpStrByAccess("abc", "abd"), -1);
-  EXPECT_EQ(sCmpStrByAccess("ab", "abc"), -1);
-  EXPECT_EQ(sCmpStrByAccess("#1", "01"), -1);   // symbols first
-  EXPECT_EQ(sCmpStrByAccess("9", "A"), -1);
-  EXPECT_EQ(sCmpStrByAccess("z", "Z"), 1);      // "z" is not folded ...
-  EXPECT_EQ(sCmpStrByAccess("Z", "y"), 1);
-  EXPECT_EQ(sCmpStrByAccess("z", "{"), 1);      // ... and sorts after symbols too
-  EXPECT_EQ(sCmpStrByAccess("\xa3\xc1" "1", "a1"), 0);  // full-width A
-  EXPECT_EQ(sCmpStrByAccess("\xa3\xb1", "1"), 0);       // full-width 1
-  EXPECT_EQ(sCmpStrByAccess("\xb0\xa1", "z"), 1);       // GBK after letters
-  EXPECT_EQ(sCmpStrByAccess("\xb0\xa1", "\xb0\xa2"), -1);
-  EXPECT_EQ(sCmpStrByAccess("\xb0\x41", "\xb0\xa1"), 1);  // second byte signed
-  EXPECT_EQ(sCmpStrByAccess("\x81\x41", "\x81\x42"), -1);  // 0x81 is no lead byte
-  EXPECT_EQ(sCmpStrByAccess("\x81", "\x80"), 1);
-  EXPECT_EQ(sCmpStrByAccess("a\xb0", "a\xb0"), 0);          // lead byte at the end
-  EXPECT_EQ(sCmpStrByAccess("co-op", "coop"), 1);
-  EXPECT_EQ(sCmpStrByAccess("coop", "co'op"), -1);
-  EXPECT_EQ(sCmpStrByAccess("-", "x"), -1);
-  EXPECT_EQ(sCmpStrByAccess("x", "''"), 1);
-  EXPECT_EQ(sCmpStrByAccess("-", "''"), -1);
-  EXPECT_EQ(sCmpStrByAccess("a-b", "ab-"), 1);
-  EXPECT_EQ(sCmpStrByAccess("a-b", "a'b"), 1);
-  EXPECT_EQ(sCmpStrByAccess("A-b", "a-B"), 0);
+  const struct {
+    const char *a, *b;
+    int out;
+  } cases[] = {
+      {"", "", 0},          {"abc", "ABC", 0},      {"ab", "abc", -1},
+      {"#1", "01", -1},     {"9", "A", -1},         {"z", "Z", 1},  // symbols, digits, letters; "z" unfolded
+      {"Z", "y", 1},        {"z", "{", 1},          {"\xa3\xc1" "1", "a1", 0},  // full-width "A"
+      {"\xb0\xa1", "z", 1}, {"\xb0\x41", "\xb0\xa1", 1},  // GBK after letters; second byte signed
+      {"\x81\x41", "\x81\x42", -1}, {"\x81", "\x80", 1},  // 0x81 is no lead byte
+      {"co-op", "coop", 1}, {"-", "x", -1},         {"-", "''", -1},
+      {"a-b", "ab-", 1},    {"a-b", "a'b", 1},      {"A-b", "a-B", 0}};
+  for (const auto& c : cases) EXPECT_EQ(sCmpStrByAccess(c.a, c.b), c.out) << c.a << " / " << c.b;
 
   // It is an order: antisymmetric and transitive over mixed texts.
   const std::vector<std::string> parts{"a", "A", "z", "Z", "-", "'", "1", "#", "\xa3\xc1", "\xb0\xa1", "\x81"};
