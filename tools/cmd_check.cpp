@@ -16,12 +16,6 @@ namespace mapcfg_tool {
 
 namespace {
 
-std::string Folded(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return s;
-}
-
 std::string ReadBytes(const std::string& path) {
   std::string out;
   std::unique_ptr<std::FILE, int (*)(std::FILE*)> f(mapcfg::sOpenFile(path, "rb"), std::fclose);
@@ -158,13 +152,10 @@ int RunCheck(const Args& args) {
   int status = 0;
   for (const std::string& file : args) {
     if (!file.empty() && file[0] == '-') return Fail(2, "unknown option '" + file + "'");
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> probe(mapcfg::sOpenFile(file, "rb"), std::fclose);
-    if (!probe) {
-      Fail(1, "cannot read " + file);
-      status = 1;
+    if (!CanRead(file)) {
+      status = Fail(1, "cannot read " + file);
       continue;
     }
-    probe.reset();
     Linter linter;
     mapcfg::CCfgScript script;
     script.Open(file.c_str(), 0, &linter);

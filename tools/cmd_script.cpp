@@ -12,12 +12,6 @@ namespace mapcfg_tool {
 
 namespace {
 
-std::string Folded(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return s;
-}
-
 // Prints every block by index; a block whose name repeats an earlier one is
 // marked, since lookups by name never reach it.
 void PrintAll(const mapcfg::CCfgScript& script, bool raw) {
@@ -57,9 +51,7 @@ int RunScript(const Args& args) {
     }
   }
   if (file.empty()) return Fail(2, "usage: mapcfg script FILE [--block NAME] [--raw]");
-  std::unique_ptr<std::FILE, int (*)(std::FILE*)> probe(mapcfg::sOpenFile(file, "rb"), std::fclose);
-  if (!probe) return Fail(1, "cannot read " + file);
-  probe.reset();
+  if (!CanRead(file)) return Fail(1, "cannot read " + file);
 
   mapcfg::CCfgScript script;
   script.Open(file.c_str(), 0);

@@ -24,12 +24,6 @@ struct Options {
   std::string find;
 };
 
-std::string Folded(std::string s) {
-  for (char& c : s)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return s;
-}
-
 // The text as shown: UTF-8 (unless raw), with line breaks and tabs escaped
 // so that every entry stays on one line.
 std::string Shown(const std::string& bytes, bool raw) {

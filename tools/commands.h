@@ -26,6 +26,12 @@ int RunStrings(const Args& args);
 // Prints "mapcfg: " + message on stderr and returns `status`.
 int Fail(int status, const std::string& message);
 
+// True when `path` (a library path) names a file that can be opened.
+bool CanRead(const std::string& path);
+
+// `text` with ASCII letters in lower case, as the library compares names.
+std::string Folded(std::string text);
+
 }  // namespace mapcfg_tool
 
 #endif  // MAPCFG_TOOLS_COMMANDS_H_

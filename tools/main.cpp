@@ -36,6 +36,19 @@ int Fail(int status, const std::string& message) {
   return status;
 }
 
+bool CanRead(const std::string& path) {
+  std::FILE* f = mapcfg::sOpenFile(path, "rb");
+  if (!f) return false;
+  std::fclose(f);
+  return true;
+}
+
+std::string Folded(std::string text) {
+  for (char& c : text)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return text;
+}
+
 }  // namespace mapcfg_tool
 
 int main(int argc, char** argv) {
