@@ -79,6 +79,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   sGetKMHighLow2Str(i, high, low);
   (void)sLeftCmpStr(text, bytes, String(1, sep), ctrl);
 
+  // The collation of catalogue names is an order: antisymmetric, reflexive.
+  const String left = text.substr(0, text.size() / 2), right = text.substr(text.size() / 2);
+  const int lr = sCmpStrByAccess(left, right), rl = sCmpStrByAccess(right, left);
+  Check((lr > 0) == (rl < 0) && (lr == 0) == (rl == 0) && sCmpStrByAccess(left, left) == 0);
+
   const String dir = sGetDirFromPath(text);
   const String file = sGetFileFromPath(text);
   Check(dir.size() + file.size() <= text.size() + 1);
