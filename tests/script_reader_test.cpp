@@ -164,14 +164,12 @@ TEST(ScriptReader, IncludesResolveBesideTheIncludingFile) {
 
 // Counts what the reader reports.
 struct Recorder : mapcfg::ScriptEvents {
-  int max_depth = 0, too_deep = 0, too_many = 0, lost_rows = 0, splits = 0;
+  int max_depth = 0, too_deep = 0, too_many = 0;
   void OnFileBegin(const std::string&, int depth) override { max_depth = std::max(max_depth, depth); }
   void OnInclude(const std::string&, int, const std::string&, bool, bool deep, bool many) override {
     too_deep += deep;
     too_many += many;
   }
-  void OnRowLostAtEnd(const std::string&, int) override { ++lost_rows; }
-  void OnLineSplit(const std::string&, int) override { ++splits; }
 };
 
 TEST(ScriptReader, IncludeLimitsStopCyclesAndFanOut) {

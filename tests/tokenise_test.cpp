@@ -59,16 +59,16 @@ TEST(Tokenise, LayoutAndNames) {
 }
 
 TEST(Tokenise, IsNumber) {
-  EXPECT_EQ(sIsNumber("  -3.5 ", 1), 1);
-  EXPECT_EQ(sIsNumber("  -3.5 ", 0), 0);
-  EXPECT_EQ(sIsNumber("-", 1), 1);
-  EXPECT_EQ(sIsNumber("-.", 1), 1);
-  EXPECT_EQ(sIsNumber(".", 0), 1);
-  EXPECT_EQ(sIsNumber("1.2.3", 1), 0);
-  EXPECT_EQ(sIsNumber("+1", 1), 0);
-  EXPECT_EQ(sIsNumber("1e5", 1), 0);
-  EXPECT_EQ(sIsNumber("3-", 1), 0);
-  EXPECT_EQ(sIsNumber("   ", 1), 0);
+  const struct {
+    const char* text;
+    int with_minus, without_minus;
+  } cases[] = {{"  -3.5 ", 1, 0}, {"-", 1, 0}, {"-.", 1, 0}, {".", 1, 1},  {"12", 1, 1},
+               {"1.2.3", 0, 0},   {"+1", 0, 0}, {"1e5", 0, 0}, {"3-", 0, 0}, {"   ", 0, 0}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.text);
+    EXPECT_EQ(sIsNumber(c.text, 1), c.with_minus);
+    EXPECT_EQ(sIsNumber(c.text, 0), c.without_minus);
+  }
 }
 
 TEST(Tokenise, LineBreakForms) {
