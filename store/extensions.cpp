@@ -3,6 +3,7 @@
 
 #include "mapcfg/platform.h"
 #include "mapcfg/store.h"
+#include "mapcfg/values.h"
 #include "store/module_loader.h"
 #include "store/store_state.h"
 
@@ -45,7 +46,7 @@ void* sLoadDll(const char* file) {
   if (!file) return nullptr;
   detail::StoreState& s = State();
   const String name = file;
-  const int found = detail::FindNoCase(s.module_names, name);
+  const int found = sAscFind(s.module_names, name, 1);
   if (found >= 0) return s.module_handles[static_cast<size_t>(found)];
   // A failed load is kept as a null handle, so it is never tried again.
   void* module = detail::OpenModule(sToNativePath(name));
@@ -58,7 +59,7 @@ void* sLoadDll(const char* file) {
 int sAddExtraFun(const char* name, ExtraFun fun) {
   if (!name) return -1;
   detail::StoreState& s = State();
-  const int found = detail::FindNoCase(s.extra_names, name);
+  const int found = sAscFind(s.extra_names, name, 1);
   if (found >= 0) return -1;
   const int at = ~found;
   s.extra_names.insert(s.extra_names.begin() + at, name);
@@ -68,7 +69,7 @@ int sAddExtraFun(const char* name, ExtraFun fun) {
 
 ExtraFun sGetExtraFunAddr(const char* name) {
   if (!name) return nullptr;
-  const int found = detail::FindNoCase(State().extra_names, name);
+  const int found = sAscFind(State().extra_names, name, 1);
   return found >= 0 ? State().extra_funs[static_cast<size_t>(found)] : nullptr;
 }
 

@@ -1,9 +1,7 @@
 // The store's process-wide state, the directories and sCfgClearPlate.
 #include "store/store_state.h"
 
-#include <algorithm>
 
-#include "script/text_bytes.h"
 
 namespace mapcfg {
 namespace detail {
@@ -35,19 +33,6 @@ namespace {
 Table* AddTable(std::unique_ptr<Table> table) {
   State().tables.push_back(std::move(table));
   return State().tables.back().get();
-}
-
-bool LessNoCase(const std::string& a, const std::string& b) {
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return static_cast<unsigned char>(FoldAscii(x)) < static_cast<unsigned char>(FoldAscii(y));
-  });
-}
-
-int FindNoCase(const StringArray& names, const std::string& name) {
-  const auto it = std::lower_bound(names.begin(), names.end(), name, LessNoCase);
-  const int at = static_cast<int>(it - names.begin());
-  if (it != names.end() && !LessNoCase(name, *it)) return at;
-  return ~at;
 }
 
 }  // namespace detail

@@ -77,8 +77,9 @@ struct StoreState {
   StringArray lib_dlls;
   StringArray menu_names;
   StringArray menu_funs;
-  // Loaded modules: names ascending without case, handles in parallel (null
-  // for a load that failed).
+  // Loaded modules: names ascending without case (kept with sAscFind and
+  // the insertion point it gives), handles in parallel (null for a load
+  // that failed).
   StringArray module_names;
   std::vector<void*> module_handles;
   // Extra functions: names ascending without case, functions in parallel.
@@ -91,13 +92,6 @@ struct StoreState {
 
 // The store. Never null while the library is loaded.
 StoreState& State();
-
-// Ascending order without case (ASCII letters folded to lower case, bytes
-// compared unsigned), the order of the store's name lists.
-bool LessNoCase(const std::string& a, const std::string& b);
-// The index of `name` in `names` (ascending without case), or the bitwise
-// complement of the place where it would be inserted.
-int FindNoCase(const StringArray& names, const std::string& name);
 
 }  // namespace detail
 }  // namespace mapcfg
