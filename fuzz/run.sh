@@ -17,13 +17,15 @@ run_one() {
   local t=$1 bin="$build/fuzz/fuzz_$1" work="$build/fuzz-corpus/$1"
   export ASAN_OPTIONS=${ASAN_OPTIONS:-quarantine_size_mb=64}
   local dict=() ; [ -f "fuzz/dict/$t.dict" ] && dict=(-dict="fuzz/dict/$t.dict")
+  local seeds=("fuzz/corpus/$t") ; [ -d "fuzz/regressions/$t" ] && seeds+=("fuzz/regressions/$t")
   mkdir -p "$work" "fuzz/corpus/$t"
   local status=0
   "$bin" "${dict[@]}" -max_total_time="$seconds" -rss_limit_mb=512 -timeout=1 -print_final_stats=1 \
-    -artifact_prefix="fuzz/artifacts/$t-" "$work" "fuzz/corpus/$t" > "$build/fuzz-logs/$t.log" 2>&1 || status=$?
-  # Keep the checked-in corpus minimal: only inputs that add coverage.
+    -artifact_prefix="fuzz/artifacts/$t-" "$work" "${seeds[@]}" > "$build/fuzz-logs/$t.log" 2>&1 || status=$?
+  # Keep the checked-in corpus small: only inputs that add an edge (hit
+  # counts are not kept apart, or every loop length would be kept).
   local merged; merged=$(mktemp -d)
-  "$bin" -merge=1 -rss_limit_mb=512 -timeout=1 "$merged" "fuzz/corpus/$t" "$work" > "$build/fuzz-logs/$t.merge.log" 2>&1 || true
+  "$bin" -merge=1 -use_counters=0 -rss_limit_mb=512 -timeout=1 "$merged" "fuzz/corpus/$t" "$work" > "$build/fuzz-logs/$t.merge.log" 2>&1 || true
   rm -rf "fuzz/corpus/$t" && mv "$merged" "fuzz/corpus/$t" && chmod 755 "fuzz/corpus/$t"
   local stats
   stats=$(grep -E '^stat::(number_of_executed_units|average_exec_per_sec|peak_rss_mb)' "$build/fuzz-logs/$t.log" | tr '\n' ' ')
