@@ -37,6 +37,15 @@ void Prefetch(const At<T>& get, int i) {
 #endif
 }
 
+// Keeps a real branch where it is called: a predicted branch lets the CPU
+// start the next probe's load at once, where a select would wait for the
+// comparison (measured faster on arrays larger than the cache).
+inline void KeepBranch() {
+#if defined(__GNUC__)
+  __asm__ volatile("");
+#endif
+}
+
 // Bisection over [lo, hi); get(i) gives the element at index i. See
 // "Ordered arrays" in mapcfg/values.h.
 template <typename Get, typename Side>
@@ -50,10 +59,12 @@ int Search(const Get& get, int lo, int hi, const Side& side) {
     Prefetch(get, mid + (hi - mid) / 2);
     const int s = side(get(mid));
     if (s == 0) return mid;
-    if (s < 0)
+    if (s < 0) {
       hi = mid;
-    else
+      KeepBranch();
+    } else {
       lo = mid;
+    }
   }
   const int s = side(get(lo));
   if (s == 0) return lo;
@@ -126,9 +137,8 @@ template <typename K, bool Desc>
 struct Exact {
   K value;
   int operator()(K e) const {
-    // Flag arithmetic rather than branches (see Search).
-    return Desc ? static_cast<int>(value < e) - static_cast<int>(e < value)
-                : static_cast<int>(e < value) - static_cast<int>(value < e);
+    if (Desc ? value < e : e < value) return 1;
+    return (Desc ? e < value : value < e) ? -1 : 0;
   }
 };
 
