@@ -15,6 +15,8 @@
 #include <stdexcept>
 #include <vector>
 
+#include "base/text_bytes.h"
+
 namespace mapcfg {
 namespace ordered {
 
@@ -168,10 +170,7 @@ struct NoCaseCompare {
     }
     return a.size() < b.size() ? -1 : (a.size() > b.size() ? 1 : 0);
   }
-  static int Fold(char c) {
-    const unsigned char u = static_cast<unsigned char>(c);
-    return (u >= 'A' && u <= 'Z') ? u + ('a' - 'A') : u;
-  }
+  static int Fold(char c) { return static_cast<unsigned char>(detail::FoldAscii(c)); }
 };
 
 // Texts compared with Compare, in the given direction.

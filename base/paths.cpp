@@ -12,6 +12,7 @@
 #include <dirent.h>
 #endif
 
+#include "base/text_bytes.h"
 #include "mapcfg/utils.h"
 
 namespace mapcfg {
@@ -27,7 +28,7 @@ size_t LastSplit(const String& path) {
   return String::npos;
 }
 
-char Upper(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - ('a' - 'A')) : c; }
+using detail::UpperAscii;
 
 // Wildcard match of a file name: "*" any run, "?" any one byte; ASCII case is
 // ignored, as the suite's file system does.
@@ -38,7 +39,7 @@ bool Match(const char* pat, const char* name) {
     if (*pat == '*') {
       star = pat++;
       resume = name;
-    } else if (*pat == '?' || (*pat && Upper(*pat) == Upper(*name))) {
+    } else if (*pat == '?' || (*pat && UpperAscii(*pat) == UpperAscii(*name))) {
       ++pat;
       ++name;
     } else if (star) {
@@ -101,8 +102,8 @@ std::vector<Entry> Search(const char* pattern) {
   std::sort(found.begin(), found.end(), [](const Entry& a, const Entry& b) {
     return std::lexicographical_compare(a.name.begin(), a.name.end(), b.name.begin(), b.name.end(),
                                         [](char x, char y) {
-                                          return static_cast<unsigned char>(Upper(x)) <
-                                                 static_cast<unsigned char>(Upper(y));
+                                          return static_cast<unsigned char>(UpperAscii(x)) <
+                                                 static_cast<unsigned char>(UpperAscii(y));
                                         });
   });
   return found;

@@ -1,6 +1,7 @@
 // Common prefixes, well names and marked drawing text.
 #include <cstring>
 
+#include "base/text_bytes.h"
 #include "mapcfg/utils.h"
 
 namespace mapcfg {
@@ -16,7 +17,7 @@ bool IsLead(char c) {
 // Bytes of the character at s[i]: 2 for a GBK pair, else 1.
 size_t CharLen(const String& s, size_t i) { return IsLead(s[i]) && i + 1 < s.size() ? 2 : 1; }
 
-char UpperAscii(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - ('a' - 'A')) : c; }
+using detail::UpperAscii;
 
 String UpperCopy(const char* text) {
   String s = text ? text : "";

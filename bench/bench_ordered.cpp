@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "../base/ordered.h"  // the library's own no-case comparison
+#include "base/ordered.h"  // the library's own no-case comparison
 
 namespace {
 

@@ -1,7 +1,7 @@
 // CCfgScript: the blocks of a script and the lookups on them.
 #include "mapcfg/script.h"
 #include "script_reader.h"
-#include "text_bytes.h"
+#include "base/text_bytes.h"
 
 namespace mapcfg {
 

@@ -4,7 +4,7 @@
 
 #include "mapcfg/platform.h"
 #include "mapcfg/utils.h"
-#include "text_bytes.h"
+#include "base/text_bytes.h"
 #include "tokenise_internal.h"
 
 namespace mapcfg {

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "mapcfg/script.h"
-#include "text_bytes.h"
+#include "base/text_bytes.h"
 
 namespace mapcfg {
 

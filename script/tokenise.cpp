@@ -2,7 +2,7 @@
 #include <cstring>
 
 #include "mapcfg/script.h"
-#include "text_bytes.h"
+#include "base/text_bytes.h"
 #include "tokenise_internal.h"
 
 namespace mapcfg {

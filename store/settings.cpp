@@ -6,7 +6,7 @@
 #include "mapcfg/script.h"
 #include "mapcfg/store.h"
 #include "script/line_source.h"
-#include "script/text_bytes.h"
+#include "base/text_bytes.h"
 #include "store/store_state.h"
 
 namespace mapcfg {

@@ -1,6 +1,6 @@
-// Byte classes shared by the script reader and the tokenisers.
-#ifndef MAPCFG_SCRIPT_TEXT_BYTES_H_
-#define MAPCFG_SCRIPT_TEXT_BYTES_H_
+// Byte classes and ASCII case folding shared by the library's sources.
+#ifndef MAPCFG_BASE_TEXT_BYTES_H_
+#define MAPCFG_BASE_TEXT_BYTES_H_
 
 #include <string>
 
@@ -17,7 +17,9 @@ inline bool IsCtrl(char c) {
 // White space as the trimming of Strings sees it: blank, tab, LF, VT, FF, CR.
 inline bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
+// ASCII letters to lower or upper case; every other byte (GBK included) as is.
 inline char FoldAscii(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c + ('a' - 'A')) : c; }
+inline char UpperAscii(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - ('a' - 'A')) : c; }
 
 // Case-insensitive equality that folds ASCII letters only.
 inline bool EqualsNoCase(const char* a, size_t na, const char* b, size_t nb) {
@@ -45,4 +47,4 @@ inline void Trim(std::string& s) {
 }  // namespace detail
 }  // namespace mapcfg
 
-#endif  // MAPCFG_SCRIPT_TEXT_BYTES_H_
+#endif  // MAPCFG_BASE_TEXT_BYTES_H_
