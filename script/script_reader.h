@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "line_source.h"
+#include "base/line_source.h"
 #include "mapcfg/script.h"
 
 namespace mapcfg {

@@ -5,7 +5,7 @@
 #include "mapcfg/platform.h"
 #include "mapcfg/script.h"
 #include "mapcfg/store.h"
-#include "script/line_source.h"
+#include "base/line_source.h"
 #include "base/text_bytes.h"
 #include "store/store_state.h"
 

@@ -1,6 +1,7 @@
-// Physical lines of a script file, read in large blocks.
-#ifndef MAPCFG_SCRIPT_LINE_SOURCE_H_
-#define MAPCFG_SCRIPT_LINE_SOURCE_H_
+// Physical lines of a text file (scripts, the settings file), read in large
+// blocks.
+#ifndef MAPCFG_BASE_LINE_SOURCE_H_
+#define MAPCFG_BASE_LINE_SOURCE_H_
 
 #include <cstdio>
 #include <memory>
@@ -30,6 +31,9 @@ class LineSource {
   int line() const { return line_; }
 
  private:
+  // Moves the unread bytes to the front of the buffer (growing it when full)
+  // and reads more after them. Pointers into the buffer are stale after it,
+  // whatever it returns.
   bool Fill();
 
   std::FILE* file_;
@@ -45,4 +49,4 @@ class LineSource {
 }  // namespace detail
 }  // namespace mapcfg
 
-#endif  // MAPCFG_SCRIPT_LINE_SOURCE_H_
+#endif  // MAPCFG_BASE_LINE_SOURCE_H_

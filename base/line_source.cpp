@@ -71,7 +71,10 @@ bool LineSource::Next(std::string_view* piece, bool* split) {
       const char* rest = start + kPiece;
       const size_t left = avail - kPiece;
       *split = left > 0 && !((rest[0] == '\n') || (left >= 2 && rest[0] == '\r' && rest[1] == '\n'));
-    } else if (!eof_ && Fill()) {
+    } else if (!eof_) {
+      // Fill moves the unread bytes (into a new buffer when it grows), even
+      // when it reads nothing more: look again at where they are now.
+      Fill();
       continue;
     } else if (avail > 0) {
       take = advance = avail;
