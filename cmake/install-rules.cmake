@@ -19,3 +19,18 @@ install(FILES
   "${CMAKE_CURRENT_BINARY_DIR}/mapcfgConfig.cmake"
   "${CMAKE_CURRENT_BINARY_DIR}/mapcfgConfigVersion.cmake"
   DESTINATION ${MAPCFG_CMAKE_DIR})
+
+# pkg-config, for hosts built with plain Makefiles or Meson. The prefix is
+# found from the .pc file's own place, so the package works from any prefix.
+file(RELATIVE_PATH MAPCFG_PC_TO_PREFIX "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
+string(REGEX REPLACE "/$" "" MAPCFG_PC_TO_PREFIX "${MAPCFG_PC_TO_PREFIX}")
+if(BUILD_SHARED_LIBS)
+  set(MAPCFG_PC_CFLAGS " -DMAPCFG_SHARED")
+  set(MAPCFG_PC_LIBS_PRIVATE "")
+else()
+  set(MAPCFG_PC_CFLAGS "")
+  set(MAPCFG_PC_LIBS_PRIVATE "${CMAKE_DL_LIBS}")
+  list(TRANSFORM MAPCFG_PC_LIBS_PRIVATE PREPEND "-l")
+endif()
+configure_file(cmake/mapcfg.pc.in "${CMAKE_CURRENT_BINARY_DIR}/mapcfg.pc" @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/mapcfg.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
