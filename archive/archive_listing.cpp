@@ -1,38 +1,34 @@
 // Inspection: the values of a stream listed as text, without knowing the
 // record layouts that wrote them.
-#include <cstdio>
-
 #include "archive_core.h"
 #include "mapcfg/archive.h"
+#include "mapcfg/utils.h"
 
 namespace mapcfg {
 
 namespace {
 
-// "    " + the number in printf format `format` + CR LF.
+// The text of each element type, as "%d" and "%f" would print it in the C
+// locale: the listing never depends on the host's locale.
+String NumberText(uint8_t v) { return sToString(static_cast<int>(v)); }
+String NumberText(int16_t v) { return sToString(static_cast<int>(v)); }
+String NumberText(int32_t v) { return sToString(static_cast<int>(v)); }
+String NumberText(float v) { return sToStdNumStr(v, 6, 0, 0); }
+String NumberText(double v) { return sToStdNumStr(v, 6, 0, 0); }
+
 template <class T>
-void AppendLine(String& out, const char* format, T value) {
-  char buf[512];  // room for "%f" of the largest double
-  const int n = std::snprintf(buf, sizeof buf, format, value);
+void AppendLine(String& out, T value) {
   out += "    ";
-  if (n > 0) out.append(buf, static_cast<size_t>(n) < sizeof buf ? static_cast<size_t>(n) : sizeof buf - 1);
+  out += NumberText(value);
   out += "\r\n";
 }
 
-// Printf argument of each element type: bytes and shorts print as int,
-// floats as double.
-int Printable(uint8_t v) { return v; }
-int Printable(int16_t v) { return v; }
-int Printable(int32_t v) { return v; }
-double Printable(float v) { return v; }
-double Printable(double v) { return v; }
-
 template <class T, T (CFFArchive::*Get)()>
-void ListScalar(CFFArchive& a, String& out, const char* format) {
-  AppendLine(out, format, Printable((a.*Get)()));
+void ListScalar(CFFArchive& a, String& out) {
+  AppendLine(out, (a.*Get)());
 }
 
-void ListString(CFFArchive& a, String& out, const char*) {
+void ListString(CFFArchive& a, String& out) {
   out += "    ";
   out += a.GetString();
   out += "\r\n";
@@ -40,31 +36,30 @@ void ListString(CFFArchive& a, String& out, const char*) {
 
 // One line per element; a failed read or an empty array lists nothing.
 template <class T, uint32_t (CFFArchive::*Get)(std::unique_ptr<T[]>&)>
-void ListArray(CFFArchive& a, String& out, const char* format) {
+void ListArray(CFFArchive& a, String& out) {
   std::unique_ptr<T[]> block;
   const uint32_t count = (a.*Get)(block);
-  for (uint32_t i = 0; i < count; ++i) AppendLine(out, format, Printable(block[i]));
+  for (uint32_t i = 0; i < count; ++i) AppendLine(out, block[i]);
 }
 
 struct Lister {
   uint8_t tag;
   const char* type_line;
-  const char* format;
-  void (*list)(CFFArchive&, String&, const char*);
+  void (*list)(CFFArchive&, String&);
 };
 
 constexpr Lister kListers[] = {
-    {1, "TYPE_I1\r\n", "%d", ListScalar<uint8_t, &CFFArchive::GetByte>},
-    {2, "TYPE_I2\r\n", "%d", ListScalar<int16_t, &CFFArchive::GetShort>},
-    {3, "TYPE_I4\r\n", "%d", ListScalar<int32_t, &CFFArchive::GetLong>},
-    {4, "TYPE_F4\r\n", "%f", ListScalar<float, &CFFArchive::GetFloat>},
-    {5, "TYPE_F8\r\n", "%f", ListScalar<double, &CFFArchive::GetDouble>},
-    {21, "TYPE_STRING\r\n", "", ListString},
-    {31, "TYPE_I1_ARRAY\r\n", "%d", ListArray<uint8_t, &CFFArchive::GetByte>},
-    {32, "TYPE_I2_ARRAY\r\n", "%d", ListArray<int16_t, &CFFArchive::GetShort>},
-    {33, "TYPE_I4_ARRAY\r\n", "%d", ListArray<int32_t, &CFFArchive::GetLong>},
-    {34, "TYPE_F4_ARRAY\r\n", "%f", ListArray<float, &CFFArchive::GetFloat>},
-    {35, "TYPE_F8_ARRAY\r\n", "%f", ListArray<double, &CFFArchive::GetDouble>},
+    {1, "TYPE_I1\r\n", ListScalar<uint8_t, &CFFArchive::GetByte>},
+    {2, "TYPE_I2\r\n", ListScalar<int16_t, &CFFArchive::GetShort>},
+    {3, "TYPE_I4\r\n", ListScalar<int32_t, &CFFArchive::GetLong>},
+    {4, "TYPE_F4\r\n", ListScalar<float, &CFFArchive::GetFloat>},
+    {5, "TYPE_F8\r\n", ListScalar<double, &CFFArchive::GetDouble>},
+    {21, "TYPE_STRING\r\n", ListString},
+    {31, "TYPE_I1_ARRAY\r\n", ListArray<uint8_t, &CFFArchive::GetByte>},
+    {32, "TYPE_I2_ARRAY\r\n", ListArray<int16_t, &CFFArchive::GetShort>},
+    {33, "TYPE_I4_ARRAY\r\n", ListArray<int32_t, &CFFArchive::GetLong>},
+    {34, "TYPE_F4_ARRAY\r\n", ListArray<float, &CFFArchive::GetFloat>},
+    {35, "TYPE_F8_ARRAY\r\n", ListArray<double, &CFFArchive::GetDouble>},
 };
 
 const Lister* FindLister(uint8_t tag) {
@@ -93,7 +88,7 @@ String Walk(CFFArchive& a, ArchiveListing* stop) {
     const Lister* lister = FindLister(tag);
     if (lister) {
       String lines = lister->type_line;
-      lister->list(a, lines, lister->format);
+      lister->list(a, lines);
       if (!stop || !ArchiveCore::HasError(a)) {
         text += lines;
         continue;

@@ -1,6 +1,6 @@
 // The language byte, the configuration string and help tables, the language
 // resource library, message boxes and version numbers.
-#include <cstdio>
+#include <charconv>
 #include <iterator>
 
 #include "info_text_source.h"
@@ -74,10 +74,13 @@ MsgBoxHandler sSetMsgBoxHandler(MsgBoxHandler handler) {
 }
 
 String sGetVersionStr(uint32_t version) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%x.%x.%x.%x", static_cast<unsigned>(version >> 24),
-                static_cast<unsigned>((version >> 16) & 0xFF), static_cast<unsigned>((version >> 8) & 0xFF),
-                static_cast<unsigned>(version & 0xFF));
+  String text;
+  for (int shift = 24; shift >= 0; shift -= 8) {
+    char part[2];
+    const auto res = std::to_chars(part, part + sizeof part, (version >> shift) & 0xFF, 16);
+    text.append(part, res.ptr);
+    if (shift) text += '.';
+  }
   return text;
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <mapcfg/mapcfg.h>
 
+
 #include <clocale>
 #include <cmath>
 #include <cstdio>
@@ -182,17 +183,32 @@ TEST(Conversions, NumbersAndTextAsTheCLibrary) {
   }
 }
 
-// Texts and numbers are the same when the host has a comma decimal point.
+// Texts and numbers are the same when the host has taken a locale with a
+// comma decimal point, as desktop hosts do with setlocale(LC_ALL, "").
 TEST(Conversions, IndependentOfHostLocale) {
-  const std::string saved = std::setlocale(LC_NUMERIC, nullptr);
-  if (!std::setlocale(LC_NUMERIC, "de_DE.UTF-8") && !std::setlocale(LC_NUMERIC, "de_DE.utf8"))
+  const std::string saved = std::setlocale(LC_ALL, nullptr);
+  if (!std::setlocale(LC_ALL, "de_DE.UTF-8") && !std::setlocale(LC_ALL, "de_DE.utf8"))
     GTEST_SKIP() << "no German locale is installed";
   // The first number shows that the locale really is in force.
-  const std::string text = Format("%.1f", 2.5) + " " + sToString(2.5) + " " + sToStdNumStr(-1234.5678, 2, 0, 0);
+  const std::string text = Format("%.1f", 2.5) + " " + sToString(2.5) + " " + sToStdNumStr(-1234.5678, 2, 0, 0) +
+                           " " + mapcfg::sGetVersionStr(0x0102A0FF);
   const double sum = sToDouble("2.5") + sToFloat("0.75");
-  std::setlocale(LC_NUMERIC, saved.c_str());
-  EXPECT_EQ(text, "2,5 2.5 -1234.57");
+  mapcfg::CFFArchive a;
+  const float floats[] = {0.25f, -3.5f};
+  const double doubles[] = {1e-7, 12345.6789};
+  a.PutFloat(1.5f);
+  a.PutDouble(-2.25);
+  a.PutFloat(floats, 2);
+  a.PutDouble(doubles, 2);
+  a.Rewind();
+  const std::string listing = a.TestData();
+  std::setlocale(LC_ALL, saved.c_str());
+  EXPECT_EQ(text, "2,5 2.5 -1234.57 1.2.a0.ff");
   EXPECT_EQ(sum, 3.25);
+  EXPECT_EQ(listing,
+            "TYPE_F4\r\n    1.500000\r\nTYPE_F8\r\n    -2.250000\r\n"
+            "TYPE_F4_ARRAY\r\n    0.250000\r\n    -3.500000\r\n"
+            "TYPE_F8_ARRAY\r\n    0.000000\r\n    12345.678900\r\n");
 }
 
 TEST(Angles, MatchRepeatedAdditionInBoundedTime) {
