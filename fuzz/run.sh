@@ -3,6 +3,9 @@
 # then merges the new inputs into the minimised corpus under fuzz/corpus.
 # Usage: fuzz/run.sh BUILD SECONDS [JOBS] [TARGET...]
 # Limits: 512 MB of memory, 1 s per input; crashes land in fuzz/artifacts/.
+# Seeds: the corpus, fuzz/regressions/TARGET (inputs that once found a fault)
+# and fuzz/seeds/TARGET (hand-made inputs, such as scripts large enough to
+# make the line buffer grow).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=$1 seconds=$2 jobs=${3:-1}
@@ -17,10 +20,13 @@ run_one() {
   local t=$1 bin="$build/fuzz/fuzz_$1" work="$build/fuzz-corpus/$1"
   export ASAN_OPTIONS=${ASAN_OPTIONS:-quarantine_size_mb=64}
   local dict=() ; [ -f "fuzz/dict/$t.dict" ] && dict=(-dict="fuzz/dict/$t.dict")
-  local seeds=("fuzz/corpus/$t") ; [ -d "fuzz/regressions/$t" ] && seeds+=("fuzz/regressions/$t")
+  local seeds=("fuzz/corpus/$t") dir
+  for dir in fuzz/regressions/$t fuzz/seeds/$t; do [ -d "$dir" ] && seeds+=("$dir"); done
+  # Flags of the target's own (fuzz/flags/TARGET), such as a larger -max_len.
+  local flags=() ; [ -f "fuzz/flags/$t" ] && read -r -a flags < "fuzz/flags/$t"
   mkdir -p "$work" "fuzz/corpus/$t"
   local status=0
-  "$bin" "${dict[@]}" -max_total_time="$seconds" -rss_limit_mb=512 -timeout=1 -print_final_stats=1 \
+  "$bin" "${dict[@]}" "${flags[@]}" -max_total_time="$seconds" -rss_limit_mb=512 -timeout=1 -print_final_stats=1 \
     -artifact_prefix="fuzz/artifacts/$t-" "$work" "${seeds[@]}" > "$build/fuzz-logs/$t.log" 2>&1 || status=$?
   # Keep the checked-in corpus small: only inputs that add an edge (hit
   # counts are not kept apart, or every loop length would be kept).
