@@ -30,33 +30,44 @@ void WriteFile(const std::string& path, const char* data, size_t size) {
   std::fclose(f);
 }
 
-// Everything a read yields: stray rows, then every block with its keys.
+// What a read reports: stray rows, and the number of files opened.
 struct Collector : mapcfg::ScriptEvents {
   std::string text;
+  int files = 0;
+  void OnFileBegin(const std::string&, int) override { ++files; }
   void OnStrayRow(const std::string&, int line, const std::string& row) override {
     text += std::to_string(line) + ":" + row + "\n";
   }
 };
 
-// Looks every block and key up by name and by index; returns what was read.
+// Looks blocks and keys up by name and by index. Returns what was read, or
+// "" when the script includes more than a few files: a script may include
+// 256, and the comparison of such reads would cost more than the read.
 std::string ReadBack(const std::string& path) {
+  constexpr int kLookedUp = 64;
+  constexpr int kComparedFiles = 8;
   mapcfg::CCfgScript script;
   Collector seen;
   script.Open(path.c_str(), 0, &seen);
+  const bool dump = seen.files <= kComparedFiles;
   std::string& out = seen.text;
   for (int b = -1; b <= script.GetCfgCnt(); ++b) {
     const std::string name = script.GetCfgName(b);
-    const int keys = script.GetKeyCnt(name.c_str());
-    if (b >= 0 && b < script.GetCfgCnt() && keys < 0) std::abort();  // every block is reachable by its name
-    for (int k = -1; k <= keys; ++k) {
-      const std::string key = script.GetKeyName(name.c_str(), k);
-      out += key + "=" + script.GetKeyVal(name.c_str(), key.c_str()) + "|" + script.GetKeyVal(name.c_str(), k) + "\n";
+    if (b < kLookedUp) {
+      const int keys = script.GetKeyCnt(name.c_str());
+      if (b >= 0 && b < script.GetCfgCnt() && keys < 0) std::abort();  // every block is reachable by its name
+      for (int k = -1; k <= keys; ++k) {
+        const std::string key = script.GetKeyName(name.c_str(), k);
+        const std::string by_key = script.GetKeyVal(name.c_str(), key.c_str());
+        if (dump) out += key + "=" + by_key + "|" + script.GetKeyVal(name.c_str(), k) + "\n";
+      }
     }
+    if (!dump) continue;
     out += "[" + name + "]\n";
     for (int k = -1; k <= script.GetKeyCntAt(b); ++k)
       out += script.GetKeyNameAt(b, k) + "=" + script.GetKeyValAt(b, k) + "\n";
   }
-  return out;
+  return dump ? out : std::string();
 }
 
 // Whether adding a line end after `text` must leave what is read unchanged:
@@ -85,7 +96,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   WriteFile(dir + "/main.cfg", main_part.data(), main_part.size());
   WriteFile(dir + "/inc.cfg", inc_part.data(), inc_part.size());
   const std::string read = ReadBack(dir + "/main.cfg");
-  if (LineEndChangesNothing(main_part)) {
+  if (!read.empty() && LineEndChangesNothing(main_part)) {
     const std::string ended = main_part + "\n";
     WriteFile(dir + "/main.cfg", ended.data(), ended.size());
     if (ReadBack(dir + "/main.cfg") != read) std::abort();

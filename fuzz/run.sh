@@ -23,10 +23,14 @@ run_one() {
   local seeds=("fuzz/corpus/$t") dir
   for dir in fuzz/regressions/$t fuzz/seeds/$t; do [ -d "$dir" ] && seeds+=("$dir"); done
   # Flags of the target's own (fuzz/flags/TARGET), such as a larger -max_len.
+  # The script target reads inputs up to 64 KiB, so that the line buffer
+  # grows, and a script may include itself until 256 files are read: such an
+  # input is 16 MiB of reading, a few seconds under the sanitizers, so it has
+  # a longer time limit per input (a later -timeout wins).
   local flags=() ; [ -f "fuzz/flags/$t" ] && read -r -a flags < "fuzz/flags/$t"
   mkdir -p "$work" "fuzz/corpus/$t"
   local status=0
-  "$bin" "${dict[@]}" "${flags[@]}" -max_total_time="$seconds" -rss_limit_mb=512 -timeout=1 -print_final_stats=1 \
+  "$bin" "${dict[@]}" -max_total_time="$seconds" -rss_limit_mb=512 -timeout=1 "${flags[@]}" -print_final_stats=1 \
     -artifact_prefix="fuzz/artifacts/$t-" "$work" "${seeds[@]}" > "$build/fuzz-logs/$t.log" 2>&1 || status=$?
   # Keep the checked-in corpus small: only inputs that add an edge (hit
   # counts are not kept apart, or every loop length would be kept).
