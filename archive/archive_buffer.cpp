@@ -11,7 +11,6 @@
 #include "archive_core.h"
 #include "mapcfg/archive.h"
 #include "mapcfg/platform.h"
-#include "mapcfg/store.h"
 
 namespace mapcfg {
 
@@ -37,7 +36,7 @@ int FileFailure(CFFArchive& a, const String& path, const char* action, int err) 
 
 void detail::ArchiveCore::Fail(CFFArchive& a, int message) {
   a.error_ = 1;
-  a.error_text_ = sGetInfoStr(message);
+  a.error_text_ = detail::InfoText(message);
 }
 
 bool detail::ArchiveCore::Grow(CFFArchive& a, uint64_t need) {
@@ -111,7 +110,7 @@ void CFFArchive::GetError(const std::exception* e) {
   if (what && *what)
     error_text_.assign(what, std::min(std::strlen(what), kMaxErrorText));
   else
-    error_text_ = sGetInfoStr(kMsgLibraryFailure);
+    error_text_ = detail::InfoText(kMsgLibraryFailure);
 }
 
 int CFFArchive::FromFile(const String& path) {

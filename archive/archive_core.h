@@ -12,7 +12,7 @@
 #include <type_traits>
 
 #include "mapcfg/archive.h"
-#include "mapcfg/store.h"
+#include "base/info_text.h"
 
 namespace mapcfg {
 

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <iterator>
 
-#include "info_text_source.h"
+#include "base/info_text.h"
 #include "mapcfg/store.h"
 #include "store/module_loader.h"
 #include "store/store_state.h"
@@ -20,7 +20,9 @@ struct TextPair {
 };
 
 constexpr TextPair kCfgStrings[] = {
+#define MAPCFG_CFG_STR(name, english, chinese) {english, chinese},
 #include "config_strings.gbk.inc"
+#undef MAPCFG_CFG_STR
 };
 static_assert(std::size(kCfgStrings) == kCfgStrCount, "one English and one Chinese text per configuration string");
 
@@ -56,6 +58,10 @@ String sLoadResoueceDLL(const char* file) {
   }
   return String();
 }
+
+String sGetInfoStr(int index) { return detail::InfoText(index); }
+
+ResStrFun* sDllGetResStrPtr() { return &detail::InfoTextSource(); }
 
 void* sGetResourceModule() { return State().resource_module; }
 

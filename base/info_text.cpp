@@ -4,12 +4,12 @@
 // one. Before that, the library answers from the built-in English texts
 // (those of the English resource library) for the numbers it uses itself,
 // so that archive errors always carry a readable message.
-#include "info_text_source.h"
-#include "mapcfg/store.h"
+#include "base/info_text.h"
+
 #include "res/info_text_table.h"
-#include "store/store_state.h"
 
 namespace mapcfg {
+namespace detail {
 
 namespace {
 
@@ -19,18 +19,18 @@ constexpr res::InfoText kBuiltinTexts[] = {
 
 }  // namespace
 
-const char* BuiltinInfoText(int index) { return res::FindInfoText(kBuiltinTexts, index); }
-
-namespace detail {
-ResStrFun& InfoTextSource() { return State().info_source; }
-}  // namespace detail
-
-String sGetInfoStr(int index) {
-  const ResStrFun source = detail::InfoTextSource();
-  const char* text = source ? source(index) : BuiltinInfoText(index);
-  return text ? String(text) : String();
+InfoTextFun& InfoTextSource() {
+  static InfoTextFun source = nullptr;
+  return source;
 }
 
-ResStrFun* sDllGetResStrPtr() { return &detail::InfoTextSource(); }
+const char* BuiltinInfoText(int index) { return res::FindInfoText(kBuiltinTexts, index); }
 
+std::string InfoText(int index) {
+  const InfoTextFun source = InfoTextSource();
+  const char* text = source ? source(index) : BuiltinInfoText(index);
+  return text ? std::string(text) : std::string();
+}
+
+}  // namespace detail
 }  // namespace mapcfg
