@@ -5,36 +5,19 @@
 #include "mapcfg/store.h"
 #include "mapcfg/values.h"
 #include "store/module_loader.h"
+#include "store/script_fields.h"
 #include "store/store_state.h"
 
 namespace mapcfg {
 
 using detail::State;
 
-namespace {
-
-// Appends the keys of the block named by configuration string `name_index`
-// to `names` and their raw values to `values`.
-void ReadNameValueBlock(const CCfgScript& script, int name_index, StringArray& names, StringArray& values) {
-  const String block = sGetCfgStr(*sGetCfgLang(), name_index);
-  const int count = script.GetKeyCnt(block.c_str());
-  for (int i = 0; i < count; ++i) {
-    names.push_back(script.GetKeyName(block.c_str(), i));
-    values.push_back(script.GetKeyVal(block.c_str(), i));
-  }
-}
-
-constexpr int kLibBlock = 3;   // "ExpandDLL"
-constexpr int kMenuBlock = 2;  // "ApplicationMenu"
-
-}  // namespace
-
 void sCfgReadLibDlls(CCfgScript& script) {
-  ReadNameValueBlock(script, kLibBlock, State().lib_names, State().lib_dlls);
+  detail::ReadNameValueBlock(script, cfg::kExpandDLL, State().lib_names, State().lib_dlls);
 }
 
 void sCfgReadMenuFuns(CCfgScript& script) {
-  ReadNameValueBlock(script, kMenuBlock, State().menu_names, State().menu_funs);
+  detail::ReadNameValueBlock(script, cfg::kApplicationMenu, State().menu_names, State().menu_funs);
 }
 
 StringArray* sCfgGetLibNamesPtr() { return &State().lib_names; }
