@@ -1,8 +1,6 @@
 // The store's process-wide state, the directories and sCfgClearPlate.
 #include "store/store_state.h"
 
-
-
 namespace mapcfg {
 namespace detail {
 

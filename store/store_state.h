@@ -5,17 +5,19 @@
 // units are initialised does not matter) and destroyed when it is unloaded,
 // after every table has been emptied as sCfgClearPlate does.
 //
-// Configuration tables of later subsystems join it through StoreTable<T>:
+// Configuration tables of later subsystems join it through StoreTable<Data>,
+// where Data is a plain struct of the table's members:
 //
-//   struct LithTable : detail::Table {
+//   struct LithTable {
 //     StringArray codes;
-//     std::vector<std::unique_ptr<_LithProp>> props;
-//     void Clear() override { codes.clear(); props.clear(); }
+//     RecordArray<_LithProp> props;
 //   };
 //   StringArray* sCfgGetLithCodesPtr() { return &detail::StoreTable<LithTable>().codes; }
 //
-// The store owns the table from its first use on, sCfgClearPlate calls its
-// Clear, and it is destroyed with the store.
+// The store owns the table from its first use on. sCfgClearPlate resets it to
+// a fresh Data{}, which empties every member and frees every record (none can
+// be forgotten), while the table stays where it is, so that the pointers the
+// getters handed out stay valid. It is destroyed with the store.
 #ifndef MAPCFG_STORE_STORE_STATE_H_
 #define MAPCFG_STORE_STORE_STATE_H_
 
@@ -41,11 +43,18 @@ class Table {
 // the table.
 Table* AddTable(std::unique_ptr<Table> table);
 
-// The process-wide instance of the table type T (derived from Table),
-// created and registered with the store on first use.
-template <class T>
-T& StoreTable() {
-  static T* const table = static_cast<T*>(AddTable(std::make_unique<T>()));
+// A store table holding the members of Data; Clear assigns Data{}.
+template <class Data>
+class ValueTable final : public Table, public Data {
+ public:
+  void Clear() override { static_cast<Data&>(*this) = Data(); }
+};
+
+// The process-wide table of type Data, created and registered with the store
+// on first use.
+template <class Data>
+Data& StoreTable() {
+  static Data* const table = static_cast<ValueTable<Data>*>(AddTable(std::make_unique<ValueTable<Data>>()));
   return *table;
 }
 
@@ -68,7 +77,6 @@ struct StoreState {
   String plate_path;
 
   char lang = 1;
-  ResStrFun info_source = nullptr;
   String resource_name;
   void* resource_module = nullptr;
   MsgBoxHandler msg_box = nullptr;

@@ -51,14 +51,7 @@ std::string Sized(size_t size, const std::string& head, Filler filler, const std
 }
 
 TEST(LastLine, SameRowsWithAndWithoutTheFinalLineEnd) {
-  const std::string saved[] = {*mapcfg::sGetHomeDirPtr(), *mapcfg::sGetCfgPlatePath()};
-  struct Restore {
-    const std::string* saved;
-    ~Restore() {
-      *mapcfg::sGetHomeDirPtr() = saved[0];
-      *mapcfg::sGetCfgPlatePath() = saved[1];
-    }
-  } restore{saved};
+  mapcfg_test::StoreGuard guard;
   TempDir dir;
   std::filesystem::create_directory(dir.File("Config"));
   *mapcfg::sGetHomeDirPtr() = dir.path();

@@ -1,5 +1,7 @@
 #include "test_util.h"
 
+#include <mapcfg/store.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -23,6 +25,37 @@ std::string TempDir::Write(const std::string& name, const std::string& bytes) co
   const std::string p = File(name);
   std::ofstream(p, std::ios::binary) << bytes;
   return p;
+}
+
+struct StoreGuard::Saved {
+  char lang = *mapcfg::sGetCfgLang();
+  std::string dirs[7] = {*mapcfg::sGetHomeDirPtr(),    *mapcfg::sGetConfigDirPtr(),   *mapcfg::sGetWorkProjDirPtr(),
+                         *mapcfg::sGetOpenMapDirPtr(), *mapcfg::sGetSaveMapDirPtr(), *mapcfg::sGetOpenFileDirPtr(),
+                         *mapcfg::sGetSaveFileDirPtr()};
+  std::string templ = *mapcfg::sGetCfgTemplName();
+  std::string plate = *mapcfg::sGetCfgPlatePath();
+  mapcfg::ResStrFun texts = *mapcfg::sDllGetResStrPtr();
+  mapcfg::StringArray lists[4] = {*mapcfg::sCfgGetLibNamesPtr(), *mapcfg::sCfgGetLibDllsPtr(),
+                                  *mapcfg::sCfgGetMenuNamesPtr(), *mapcfg::sCfgGetMenuFunsPtr()};
+};
+
+StoreGuard::StoreGuard() : saved_(std::make_unique<Saved>()) {}
+
+StoreGuard::~StoreGuard() {
+  *mapcfg::sGetCfgLang() = saved_->lang;
+  std::string* dirs[7] = {mapcfg::sGetHomeDirPtr(),    mapcfg::sGetConfigDirPtr(),   mapcfg::sGetWorkProjDirPtr(),
+                          mapcfg::sGetOpenMapDirPtr(), mapcfg::sGetSaveMapDirPtr(), mapcfg::sGetOpenFileDirPtr(),
+                          mapcfg::sGetSaveFileDirPtr()};
+  for (int i = 0; i < 7; ++i) *dirs[i] = saved_->dirs[i];
+  *mapcfg::sGetCfgTemplName() = saved_->templ;
+  *mapcfg::sGetCfgPlatePath() = saved_->plate;
+  *mapcfg::sDllGetResStrPtr() = saved_->texts;
+  mapcfg::sSetMsgBoxHandler(nullptr);
+  *mapcfg::sCfgGetLibNamesPtr() = saved_->lists[0];
+  *mapcfg::sCfgGetLibDllsPtr() = saved_->lists[1];
+  *mapcfg::sCfgGetMenuNamesPtr() = saved_->lists[2];
+  *mapcfg::sCfgGetMenuFunsPtr() = saved_->lists[3];
+  mapcfg::sCfgClearPlate();
 }
 
 std::string ReadAll(const std::string& path) {

@@ -2,6 +2,7 @@
 #ifndef MAPCFG_TESTS_TEST_UTIL_H_
 #define MAPCFG_TESTS_TEST_UTIL_H_
 
+#include <memory>
 #include <string>
 
 namespace mapcfg_test {
@@ -21,6 +22,23 @@ class TempDir {
 
  private:
   std::string path_;
+};
+
+// Saves the process-wide state that tests change (language byte,
+// directories, settings names, information-text source, message-box
+// handler, extension and menu lists) and puts it back when it goes out of
+// scope, whatever assertion failed; it also empties every table
+// (sCfgClearPlate), so that a test leaves the store as it found it.
+class StoreGuard {
+ public:
+  StoreGuard();
+  ~StoreGuard();
+  StoreGuard(const StoreGuard&) = delete;
+  StoreGuard& operator=(const StoreGuard&) = delete;
+
+ private:
+  struct Saved;
+  std::unique_ptr<Saved> saved_;
 };
 
 // The whole content of a file, or "" when it cannot be read.
