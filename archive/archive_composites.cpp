@@ -5,7 +5,6 @@
 
 #include "archive_core.h"
 #include "mapcfg/archive.h"
-#include "mapcfg/catalogs.h"
 #include "mapcfg/values.h"
 
 namespace mapcfg {
@@ -210,17 +209,6 @@ int CFFArchive::PutDblPoint(const CDblPoint* point) {
 }
 
 int CFFArchive::GetDblPoint(CDblPoint* point) { return point ? ReadTwoDoubles(*this, point->x, point->y) : 0; }
-
-int CFFArchive::PutHVSpaceProp(const _HVSpaceProp* prop) {
-  if (!prop) return 0;
-  PutDouble(prop->hSpace);
-  PutDouble(prop->vSpace);
-  return 1;
-}
-
-int CFFArchive::GetHVSpaceProp(_HVSpaceProp* prop) {
-  return prop ? ReadTwoDoubles(*this, prop->hSpace, prop->vSpace) : 0;
-}
 
 int CFFArchive::PutDblPointArray(const std::vector<CDblPoint>& first, const std::vector<CDblPoint>* second,
                                  const std::vector<CDblPoint>* third) {

@@ -113,6 +113,28 @@ Form Record(int (CFFArchive::*get)(T*), int (CFFArchive::*put)(const T*)) {
   };
 }
 
+// A record read by `get` into a target that starts as `start`, written back
+// by `put`; the text is the reader's result, then the record's fields.
+template <class T, class Get, class Put>
+Form Rec(T start, Get get, Put put) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    T v = start;
+    const int ok = get(in, v);
+    if (out) put(*out, v);
+    std::string s = Text(ok);
+    for (const FieldText& f : sDescribe(v)) s += "," + (f.kind == FieldText::kText ? Text(f.value) : f.value);
+    return s;
+  };
+}
+template <class T>
+Form Attribute(T start, int (CFFArchive::*get)(T&, uint32_t), int (CFFArchive::*put)(const T&), uint32_t version) {
+  return Rec(start, [=](CFFArchive& a, T& v) { return (a.*get)(v, version); },
+             [=](CFFArchive& a, const T& v) { (a.*put)(v); });
+}
+const LINE_PROP kLineStart{7, -7.0f, "start"};
+const PATT_PROP kPattStart{7, 7, -7.0f, "start"};
+const FONT_PROP kFontStart{7, -7.0f, -7.0f, -7.0f, -7, 7, {7, 7, 7, 7, 7, 7, 7}, "start"};
+
 // The TestData listing from the read position, "\r\n" shown as ";" and
 // spaces as "_".
 std::string Listing(CFFArchive& in, CFFArchive*) {
@@ -151,6 +173,12 @@ const std::map<std::string, Form> kForms = {
     {"point", Record(&CFFArchive::GetDblPoint, &CFFArchive::PutDblPoint)},
     {"hvspace", Record(&CFFArchive::GetHVSpaceProp, &CFFArchive::PutHVSpaceProp)},
     {"list", Listing},
+    {"line", Attribute(kLineStart, &CFFArchive::GetLineProp, &CFFArchive::PutLineProp, 0x02017519)},
+    {"line_old", Attribute(kLineStart, &CFFArchive::GetLineProp, &CFFArchive::PutLineProp, 0x02017518)},
+    {"patt", Attribute(kPattStart, &CFFArchive::GetPattProp, &CFFArchive::PutPattProp, 0x02007344)},
+    {"patt_old", Attribute(kPattStart, &CFFArchive::GetPattProp, &CFFArchive::PutPattProp, 0x02007343)},
+    {"fontprop", Rec(kFontStart, [](CFFArchive& a, FONT_PROP& v) { return a.GetFontProp(v); },
+                     [](CFFArchive& a, const FONT_PROP& v) { a.PutFontProp(v); })},
 };
 
 // True when exactly `n` bytes of the stream have been read.
@@ -164,8 +192,8 @@ bool Consumed(CFFArchive& a, size_t n) {
 // Each line "hex bytes | writer | reader=text ..." of the golden files; after
 // error=N and consumed=N the readers must fail with message N, having read
 // that many bytes.
-TEST(ArchiveGolden, ScalarsArraysCompositesAndInvalidStreams) {
-  for (const std::string name : {"scalars.hex", "arrays.hex", "composites.hex", "invalid.hex"}) {
+TEST(ArchiveGolden, ScalarsArraysCompositesRecordsAndInvalidStreams) {
+  for (const std::string name : {"scalars.hex", "arrays.hex", "composites.hex", "invalid.hex", "records.hex"}) {
     std::istringstream in(mapcfg_test::ReadAll(std::string(MAPCFG_TEST_DATA) + "/archive/" + name));
     ASSERT_TRUE(in.str().size() > 0) << name;
     int n = 0;

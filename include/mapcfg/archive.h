@@ -35,7 +35,15 @@ namespace mapcfg {
 
 class CDblPoint;
 class CDblRect;
-struct _HVSpaceProp;  // spacing record of the catalogues (mapcfg/catalogs.h)
+// Records of the catalogues (mapcfg/catalogs.h) and the store (mapcfg/store.h).
+struct _HVSpaceProp;
+struct LINE_PROP;
+struct PATT_PROP;
+struct FONT_PROP;
+struct _StatusProp;
+struct _IntepretProp;
+struct _LithProp;
+struct _SysCfgParam;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -198,6 +206,46 @@ class MAPCFG_EXPORT CFFArchive {
   // The spacing record's two doubles, exactly as PutDblPoint/GetDblPoint.
   int PutHVSpaceProp(const _HVSpaceProp* prop);
   int GetHVSpaceProp(_HVSpaceProp* prop);
+
+  // --- Records -------------------------------------------------------------------
+  // Each record is its fields in order (the layouts are in mapcfg/catalogs.h
+  // and mapcfg/store.h). Put... writes the current layout and returns 1. Get...
+  // reads it, taking the layout of archive `version` where the layout
+  // changed; it stops at the first failed read and returns 0: fields read
+  // before keep their new values, later ones what the caller had (a failed
+  // name read leaves the name as it was).
+  int PutLineProp(const LINE_PROP& line);
+  int GetLineProp(LINE_PROP& line, uint32_t version);
+  int PutPattProp(const PATT_PROP& patt);
+  int GetPattProp(PATT_PROP& patt, uint32_t version);
+  int PutFontProp(const FONT_PROP& font);
+  int GetFontProp(FONT_PROP& font);
+  int PutStatusProp(const _StatusProp* prop);
+  int GetStatusProp(_StatusProp* prop);
+  int PutInterpretProp(const _IntepretProp* prop);
+  int GetInterpretProp(_IntepretProp* prop);
+  int PutLithProp(const _LithProp* prop);
+  int GetLithProp(_LithProp* prop);
+  int PutSysCfgParam(const _SysCfgParam* param);
+  int GetSysCfgParam(_SysCfgParam* param, uint32_t version);
+  // Record arrays, as the value arrays below: PutLong(first.size()), then for
+  // each index the record of `first`, then of `second` and `third` when
+  // given. The readers append a new record per element, stop at the first
+  // failure (the records read before stay) and never allocate ahead of the
+  // bytes that hold the records.
+  int PutStatusPropArray(const RecordArray<_StatusProp>& first, const RecordArray<_StatusProp>* second = nullptr,
+                         const RecordArray<_StatusProp>* third = nullptr);
+  int GetStatusPropArray(RecordArray<_StatusProp>& first, RecordArray<_StatusProp>* second = nullptr,
+                         RecordArray<_StatusProp>* third = nullptr);
+  int PutInterpretPropArray(const RecordArray<_IntepretProp>& first,
+                            const RecordArray<_IntepretProp>* second = nullptr,
+                            const RecordArray<_IntepretProp>* third = nullptr);
+  int GetInterpretPropArray(RecordArray<_IntepretProp>& first, RecordArray<_IntepretProp>* second = nullptr,
+                            RecordArray<_IntepretProp>* third = nullptr);
+  int PutLithPropArray(const RecordArray<_LithProp>& first, const RecordArray<_LithProp>* second = nullptr,
+                       const RecordArray<_LithProp>* third = nullptr);
+  int GetLithPropArray(RecordArray<_LithProp>& first, RecordArray<_LithProp>* second = nullptr,
+                       RecordArray<_LithProp>* third = nullptr);
 
   // Arrays behind a count: PutLong(first.size()), then for each index the
   // element of `first`, then of `second` and `third` when given, interleaved.

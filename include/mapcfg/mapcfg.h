@@ -13,6 +13,7 @@
 #include "mapcfg/archive.h"
 #include "mapcfg/catalogs.h"
 #include "mapcfg/maps.h"
+#include "mapcfg/describe.h"
 #include "mapcfg/version.h"
 
 #endif  // MAPCFG_MAPCFG_H_

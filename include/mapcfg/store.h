@@ -1,5 +1,6 @@
 // The process-wide configuration store: directories, settings, language and
-// message tables, extension libraries.
+// message tables, extension libraries, system parameters, and the whole
+// store as one archive stream.
 //
 // All of it lives in the library for the whole time it is loaded: it is
 // created when the library is loaded and emptied (sCfgClearPlate) and
@@ -15,6 +16,7 @@
 #include <string>
 
 #include "mapcfg/export.h"
+#include "mapcfg/archive.h"
 #include "mapcfg/script.h"
 #include "mapcfg/types.h"
 
@@ -138,6 +140,56 @@ MAPCFG_EXPORT int sGetExtraFunCount();
 // Name number `index` in ascending order without case. Throws
 // std::out_of_range when index is outside 0 .. count - 1.
 MAPCFG_EXPORT String sGetExtraFunName(int index);
+
+// --- System parameters and display systems ------------------------------------
+// Depths and coordinates are stored in a source system (0 metres, 1 feet)
+// and shown in a display system: 0 metric, 1 feet, n >= 2 the user system
+// n - 2, which only an archive brings.
+
+// Script block "SysCfgParam" ("系统配置参数"): keys "DatumHeight" (double),
+// "DepthDispSystem" and "CoordDispSystem" (integers). Archive: Double
+// datumHeight, Byte depthSystem, Byte coordSystem, Long count of user depth
+// systems, then each as String text1, Double factor, String text2; the same
+// for the coordinate systems. Archives older than 0x03012067 hold none of
+// it.
+struct _SysCfgParam {
+  double datumHeight = 0.0;
+  uint8_t depthSystem = 0;
+  uint8_t coordSystem = 0;
+  StringArray depthTexts1;
+  std::vector<double> depthFactors;
+  StringArray depthTexts2;
+  StringArray coordTexts1;
+  std::vector<double> coordFactors;
+  StringArray coordTexts2;
+};
+
+// The store's system parameters.
+MAPCFG_EXPORT _SysCfgParam* sCfgGetSysCfgParamPtr();
+// Reads the three keys (a missing or unreadable value gives 0) and drops
+// every user system.
+MAPCFG_EXPORT void sCfgReadSysCfgParam(CCfgScript& script);
+// Factor and captions of source system `system`: 1 feet (3.28084), anything
+// else metric (1.0). Captions go only through non-null pointers.
+MAPCFG_EXPORT double cfgGetOrgSystem(char system, String* first, String* second);
+// Factor (display units per metre) and captions of the depth or coordinate
+// display system; an unknown user system falls back to metric.
+MAPCFG_EXPORT double cfgGetDepthDispSystem(String* first, String* second);
+MAPCFG_EXPORT double cfgGetCoordDispSystem(String* first, String* second);
+// The factor that turns a value stored in system `org` into the display
+// system, with the display system's captions.
+MAPCFG_EXPORT double cfgDepthOrg2DispSystem(char org, String* first, String* second);
+MAPCFG_EXPORT double cfgCoordOrg2DispSystem(char org, String* first, String* second);
+
+// --- The whole store as one archive stream ---------------------------------------
+// System parameters, extension and menu lists, the status, interpretation
+// and lithology catalogues, colours, the name-to-picture catalogues, preset
+// colours, text formats, data sources and label curves, in that order.
+// Writing and reading stop at the first failure and return the archive's
+// error text ("" on success); tables read before it keep what they
+// received.
+MAPCFG_EXPORT String sCfgWriteMain(CFFArchive& archive);
+MAPCFG_EXPORT String sCfgReadMain(CFFArchive& archive, uint32_t version);
 
 }  // namespace mapcfg
 

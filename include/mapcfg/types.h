@@ -6,6 +6,7 @@
 #define MAPCFG_TYPES_H_
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,19 @@ namespace mapcfg {
 using String = std::string;
 // An ordered, growable array of Strings.
 using StringArray = std::vector<std::string>;
+// Records owned by a table or a parent record, in order.
+template <class T>
+using RecordArray = std::vector<std::unique_ptr<T>>;
+
+// A field of a record as text (mapcfg/describe.h): its name, its value and
+// the kind of value.
+struct FieldText {
+  enum Kind : char { kText = 's', kInteger = 'i', kHex = 'x', kReal = 'f' };
+  String name;
+  String value;
+  Kind kind;
+};
+using FieldTexts = std::vector<FieldText>;
 
 // Integer point.
 struct CPoint {

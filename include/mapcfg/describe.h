@@ -1,0 +1,37 @@
+// Records as named field texts, for tools that show, compare and review
+// configurations (the mapcfg tool's show and diff are built on it).
+//
+// The names follow the record's fields in archive order: "color",
+// "texts1[2]", nested records as "FmtTLine.width". The texts are exact:
+// integers in decimal, colours and other unsigned 32-bit words in hexadecimal
+// ("0x00FF00"), floats and doubles in the shortest form that reads back to
+// the same number, names as their 8-bit bytes (GBK in Chinese
+// configurations).
+#ifndef MAPCFG_DESCRIBE_H_
+#define MAPCFG_DESCRIBE_H_
+
+#include <vector>
+
+#include "mapcfg/catalogs.h"
+#include "mapcfg/export.h"
+#include "mapcfg/store.h"
+#include "mapcfg/types.h"
+
+namespace mapcfg {
+
+// The fields of a record, in archive order. The caller owns the result.
+MAPCFG_EXPORT FieldTexts sDescribe(const LINE_PROP& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const PATT_PROP& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const FONT_PROP& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _StatusProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _IntepretProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _LithProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _TextFmt& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _SysCfgParam& record);
+// Every table of the whole-store stream (sCfgWriteMain), in stream order:
+// "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
+MAPCFG_EXPORT FieldTexts sDescribeMainStore();
+
+}  // namespace mapcfg
+
+#endif  // MAPCFG_DESCRIBE_H_
