@@ -35,7 +35,7 @@ run_one() {
   # Keep the checked-in corpus small: only inputs that add an edge (hit
   # counts are not kept apart, or every loop length would be kept).
   local merged; merged=$(mktemp -d)
-  "$bin" -merge=1 -use_counters=0 -rss_limit_mb=512 -timeout=1 "$merged" "fuzz/corpus/$t" "$work" > "$build/fuzz-logs/$t.merge.log" 2>&1 || true
+  "$bin" -merge=1 -use_counters=0 -rss_limit_mb=512 -timeout=1 "${flags[@]}" "$merged" "fuzz/corpus/$t" "$work" > "$build/fuzz-logs/$t.merge.log" 2>&1 || true
   rm -rf "fuzz/corpus/$t" && mv "$merged" "fuzz/corpus/$t" && chmod 755 "fuzz/corpus/$t"
   local stats
   stats=$(grep -E '^stat::(number_of_executed_units|average_exec_per_sec|peak_rss_mb)' "$build/fuzz-logs/$t.log" | tr '\n' ' ')
