@@ -85,7 +85,7 @@ class Linter : public mapcfg::ScriptEvents {
     if (Folded(colon) == "config")
       Report(file, row_line, "\"Config:\" row is swallowed by the header before it (missing \"Begin\")");
   }
-  void OnKey(const std::string& file, int line, const std::string&, const std::string& key) override {
+  void OnKey(const std::string& file, int line, const std::string&, const std::string& key, bool) override {
     if (!stack_.empty()) stack_.back().keys.push_back({file, line, key});
   }
   void OnHeaderInBlock(const std::string& file, int line, const std::string& block) override {
