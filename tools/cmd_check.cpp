@@ -35,14 +35,6 @@ bool StartsWith(const std::string& s, const char* prefix) {
   return s.compare(0, std::char_traits<char>::length(prefix), prefix) == 0;
 }
 
-// One name for all the paths of a file: its canonical path.
-std::string FileId(const std::string& library_path) {
-  std::error_code ec;
-  const std::string native = mapcfg::sToNativePath(library_path);
-  const std::filesystem::path canonical = std::filesystem::weakly_canonical(native, ec);
-  return ec ? native : canonical.string();
-}
-
 const char kLimits[] = "the reader follows it until its include limits stop it";
 
 class Linter : public mapcfg::ScriptEvents {
@@ -248,6 +240,16 @@ class Linter : public mapcfg::ScriptEvents {
     std::vector<Where> keys;  // key rows of the block being read in this file
   };
 
+  // One name for all the paths of a file: its canonical path.
+  const std::string& FileId(const std::string& library_path) const {
+    auto it = ids_.find(library_path);
+    if (it != ids_.end()) return it->second;
+    std::error_code ec;
+    const std::string native = mapcfg::sToNativePath(library_path);
+    const std::filesystem::path canonical = std::filesystem::weakly_canonical(native, ec);
+    return ids_.emplace(library_path, ec ? native : canonical.string()).first->second;
+  }
+
   std::string At(const Where& w) const {
     return NameToDisplay(input_.Shown(w.file)) + ":" + std::to_string(w.line);
   }
@@ -324,6 +326,7 @@ class Linter : public mapcfg::ScriptEvents {
   std::map<std::string, std::pair<int, Report>> cycles_;  // file ids -> depth, report
   std::set<std::string> seen_;
   std::vector<Report> reports_;
+  mutable std::map<std::string, std::string> ids_;  // library path -> FileId
 };
 
 void PrintReport(const Report& r, bool json, bool* first) {
