@@ -1,6 +1,9 @@
 #include "line_source.h"
 
+#include <algorithm>
 #include <cstring>
+
+#include "base/text_bytes.h"
 
 namespace mapcfg {
 namespace detail {
@@ -34,10 +37,14 @@ bool LineSource::Fill() {
     eof_ = true;
     return false;
   }
-  // A Ctrl-Z byte ends a text file.
+  raw_end_ = keep + got;
+  // A Ctrl-Z byte ends a text file. The bytes after it stay in the buffer
+  // for TextAfterEnd; the line it lies on is the line of the first unread
+  // byte plus the line ends before it.
   if (const void* z = std::memchr(buf_.get() + keep, kCtrlZ, got)) {
     got = static_cast<size_t>(static_cast<const char*>(z) - (buf_.get() + keep));
     eof_ = true;
+    ctrl_z_line_ = next_line_ + static_cast<int>(std::count(buf_.get(), buf_.get() + keep + got, '\n'));
   }
   end_ = keep + got;
   return got > 0;
@@ -84,10 +91,29 @@ bool LineSource::Next(std::string_view* piece, bool* split) {
     line_ = next_line_;
     if (take < advance) ++next_line_;
     begin_ += advance;
-    if (const void* nul = std::memchr(start, '\0', take)) take = static_cast<size_t>(static_cast<const char*>(nul) - start);
+    const void* nul = std::memchr(start, '\0', take);
+    nul_ = nul != nullptr;
+    if (nul) take = static_cast<size_t>(static_cast<const char*>(nul) - start);
     *piece = std::string_view(start, take);
     return true;
   }
+}
+
+bool LineSource::TextAfterEnd() {
+  if (ctrl_z_line_ == 0) return false;
+  const auto is_text = [](char c) { return c != kCtrlZ && c != '\0' && !IsSpace(c); };
+  // The bytes after the mark that were read with it, then the rest of the
+  // file up to the look-ahead limit.
+  if (std::any_of(buf_.get() + end_ + 1, buf_.get() + raw_end_, is_text)) return true;
+  size_t looked = raw_end_ - end_;
+  while (looked < kLookPastEnd) {
+    const size_t want = std::min(capacity_ - end_, kLookPastEnd - looked);
+    const size_t got = std::fread(buf_.get() + end_, 1, want, file_);
+    if (got == 0) return false;
+    if (std::any_of(buf_.get() + end_, buf_.get() + end_ + got, is_text)) return true;
+    looked += got;
+  }
+  return false;
 }
 
 }  // namespace detail

@@ -29,6 +29,17 @@ class LineSource {
   bool Next(std::string_view* piece, bool* split);
   // 1-based number of the source line the last piece came from.
   int line() const { return line_; }
+  // True when a NUL byte cut the last piece short.
+  bool nul() const { return nul_; }
+  // The line holding the Ctrl-Z byte that ended the file, or 0 when none did
+  // (so far).
+  int ctrl_z_line() const { return ctrl_z_line_; }
+  // After a Ctrl-Z ended the file: whether anything other than white space,
+  // NUL and Ctrl-Z bytes follows it within the next kLookPastEnd bytes. Reads
+  // on in the file to find out; call it once, when all pieces were taken.
+  bool TextAfterEnd();
+
+  static constexpr size_t kLookPastEnd = 1024 * 1024;
 
  private:
   // Moves the unread bytes to the front of the buffer (growing it when full)
@@ -42,8 +53,11 @@ class LineSource {
   size_t begin_ = 0;  // next unread byte
   size_t end_ = 0;    // end of the bytes read
   bool eof_ = false;
+  size_t raw_end_ = 0;  // end of the bytes read, those after a Ctrl-Z included
   int line_ = 0;
   int next_line_ = 1;
+  bool nul_ = false;
+  int ctrl_z_line_ = 0;
 };
 
 }  // namespace detail

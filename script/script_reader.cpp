@@ -61,7 +61,10 @@ bool ScriptReader::ReadFile(const std::string& path) {
   if (events_) events_->OnFileBegin(path_, depth_);
   while (GetNextCfg()) {
   }
-  if (events_) events_->OnFileEnd(path_, depth_);
+  if (events_) {
+    if (lines.ctrl_z_line() > 0) events_->OnCtrlZ(path_, lines.ctrl_z_line(), lines.TextAfterEnd());
+    events_->OnFileEnd(path_, depth_);
+  }
   lines_ = nullptr;
   return true;
 }
@@ -72,18 +75,29 @@ bool ScriptReader::GetRowData(std::string_view* row, int* line) {
     bool split = false;
     bool continued = false;
     int first_line = 0;
+    // The last piece that ended in "_", for the observer.
+    int joined_line = 0;
+    std::string joined_piece;
     for (;;) {
       if (!lines_->Next(&piece, &split)) {
         if (continued && events_) events_->OnRowLostAtEnd(path_, first_line);
         return false;
       }
-      if (split && events_) events_->OnLineSplit(path_, lines_->line());
+      if (events_) {
+        events_->OnLine(path_, lines_->line(), std::string(piece), lines_->nul());
+        if (split) events_->OnLineSplit(path_, lines_->line());
+      }
       if (!continued) first_line = lines_->line();
       piece = TrimView(piece);
+      if (continued && events_) events_->OnJoin(path_, joined_line, joined_piece, lines_->line(), std::string(piece));
       if (!piece.empty() && piece.back() == '_') {
         if (!continued) joined_.clear();
         joined_.append(piece.data(), piece.size() - 1);
         continued = true;
+        if (events_) {
+          joined_line = lines_->line();
+          joined_piece.assign(piece);
+        }
         continue;
       }
       if (continued) {
@@ -172,7 +186,7 @@ bool ScriptReader::GetNextCfg() {
     std::string_view value;
     if (row.size() > static_cast<size_t>(pos) + 1) value = Unquote(TrimView(row.substr(pos + 1)));
     if (events_) {
-      events_->OnKey(path_, line, block.name, key);
+      events_->OnKey(path_, line, block.name, key, static_cast<size_t>(pos) < row.size());
       int colon = 0;
       if (EqualsNoCase(FieldBefore(row, ':', &colon), "Config")) events_->OnHeaderInBlock(path_, line, block.name);
     }

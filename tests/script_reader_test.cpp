@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <mapcfg/script.h>
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -188,6 +189,68 @@ TEST(ScriptReader, IncludeLimitsStopCyclesAndFanOut) {
   c.Open(dir.File("twice.cfg").c_str(), 0, &r2);
   EXPECT_EQ(c.GetCfgCnt(), mapcfg::kMaxIncludedFiles + 1);
   EXPECT_GT(r2.too_many, 0);
+}
+
+// The facts the reader hands an observer about the bytes it reads, one line
+// of text per event.
+struct ByteLog : mapcfg::ScriptEvents {
+  std::vector<std::string> log;
+  void OnLine(const std::string&, int line, const std::string& text, bool nul) override {
+    if (nul) log.push_back(std::to_string(line) + " nul " + text);
+  }
+  void OnCtrlZ(const std::string&, int line, bool text_after) override {
+    log.push_back(std::to_string(line) + (text_after ? " ctrl-z, text after" : " ctrl-z"));
+  }
+  void OnJoin(const std::string&, int line, const std::string& piece, int next_line,
+              const std::string& next_piece) override {
+    log.push_back(std::to_string(line) + " join [" + piece + "] " + std::to_string(next_line) + " [" +
+                  next_piece + "]");
+  }
+  void OnKey(const std::string&, int line, const std::string&, const std::string& key, bool has_equals) override {
+    log.push_back(std::to_string(line) + " key [" + key + "]" + (has_equals ? "" : " without ="));
+  }
+};
+
+TEST(ScriptReader, ObserverSeesNulsJoinsKeysAndTheEndMark) {
+  const std::string blanks(3 * 4096, ' ');
+  const struct {
+    std::string text;
+    std::vector<std::string> want;
+  } kCases[] = {
+      {std::string("Config: A\nBegin\nk = a\0b\nlone\n= v\nEnd\n", 37),
+       {"3 nul k = a", "3 key [k]", "4 key [lone] without =", "5 key []"}},
+      {"Config: A\nBegin\n  k = one _  \n// two _\n\n\nEnd\n",
+       {"3 join [k = one _] 4 [// two _]", "4 join [// two _] 5 []", "3 key [k]"}},
+      // The mark's line, whether text follows it, and text far past it: in
+      // the same read, beyond the first buffer, beyond the look-ahead.
+      {"Config: A\nBegin\nEnd\n\x1A\nConfig: B\n", {"4 ctrl-z, text after"}},
+      {"Config: A\nBegin\nEnd\n  x\x1A\x1A \r\n\t\x1A", {"4 ctrl-z"}},
+      {"\n\n\x1A" + blanks + "x", {"3 ctrl-z, text after"}},
+      {blanks + "\n\n\x1A" + std::string(1024 * 1024, ' ') + "x", {"3 ctrl-z"}},
+  };
+  for (const auto& c : kCases) {
+    TempDir dir;
+    ByteLog log;
+    CCfgScript script;
+    script.Open(dir.Write("main.cfg", c.text).c_str(), 0, &log);
+    EXPECT_EQ(log.log, c.want) << c.text.substr(0, 60);
+  }
+}
+
+// An observer that throws ends the read; files close, completed blocks stay.
+TEST(ScriptReader, ObserverMayEndTheRead) {
+  struct Stop : mapcfg::ScriptEvents {
+    void OnFileBegin(const std::string&, int depth) override {
+      if (depth == 2) throw std::runtime_error("stop");
+    }
+  } stop;
+  TempDir dir;
+  dir.Write("inc.cfg", "Config: I\nBegin\nEnd\n");
+  CCfgScript script;
+  const std::string main = dir.Write("main.cfg", "Config: A\nBegin\nEnd\n#Include <inc.cfg>\nConfig: B\nBegin\nEnd\n");
+  EXPECT_THROW(script.Open(main.c_str(), 0, &stop), std::runtime_error);
+  ASSERT_EQ(script.GetCfgCnt(), 1);
+  EXPECT_EQ(script.GetCfgName(0), "A");
 }
 
 }  // namespace

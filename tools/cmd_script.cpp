@@ -3,72 +3,92 @@
 
 #include <cstdio>
 #include <map>
-#include <memory>
+#include <vector>
 
 #include "commands.h"
 #include "display_text.h"
+#include "input.h"
 
 namespace mapcfg_tool {
 
 namespace {
 
-// Prints every block by index; a block whose name repeats an earlier one is
-// marked, since lookups by name never reach it.
-void PrintAll(const mapcfg::CCfgScript& script, bool raw) {
-  std::map<std::string, int> first;
-  for (int b = 0; b < script.GetCfgCnt(); ++b) {
-    const std::string name = script.GetCfgName(b);
-    const auto seen = first.emplace(Folded(name), b);
-    std::string note;
-    if (!seen.second) note = "  (same name as block " + std::to_string(seen.first->second) + ": unreachable by name)";
-    std::printf("[%d] Config: %s%s\n", b, ToDisplay(name, raw).c_str(), note.c_str());
-    for (int k = 0; k < script.GetKeyCntAt(b); ++k)
-      std::printf("    %s = %s\n", ToDisplay(script.GetKeyNameAt(b, k), raw).c_str(),
-                  ToDisplay(script.GetKeyValAt(b, k), raw).c_str());
+// Stops the read at an included file that is not a regular file.
+struct Guard : mapcfg::ScriptEvents {
+  void OnFileBegin(const std::string& file, int depth) override {
+    if (depth > 1) StopUnlessRegular(file);
   }
+};
+
+// Index of the first block named `name` (as the library's lookups find it),
+// trying the name as typed, then converted from UTF-8 to GBK; -1 if none.
+int FindBlock(const mapcfg::CCfgScript& script, const std::string& name) {
+  std::string gbk;
+  for (const std::string& n : {name, Utf8ToGbk(name, &gbk) ? gbk : name}) {
+    if (script.GetKeyCnt(n.c_str()) < 0) continue;
+    for (int b = 0; b < script.GetCfgCnt(); ++b)
+      if (Folded(script.GetCfgName(b)) == Folded(n)) return b;
+  }
+  return -1;
+}
+
+void PrintBlock(const mapcfg::CCfgScript& script, int b, int same_as, bool raw) {
+  std::string note;
+  if (same_as >= 0) note = "  (same name as block " + std::to_string(same_as) + ": unreachable by name)";
+  std::printf("[%d] Config: %s%s\n", b, ToDisplay(script.GetCfgName(b), raw).c_str(), note.c_str());
+  for (int k = 0; k < script.GetKeyCntAt(b); ++k)
+    std::printf("    %s = %s\n", ToDisplay(script.GetKeyNameAt(b, k), raw).c_str(),
+                ToDisplay(script.GetKeyValAt(b, k), raw).c_str());
+}
+
+void PrintBlockJson(const mapcfg::CCfgScript& script, int b, int same_as, bool last) {
+  std::printf("  {\"index\": %d, \"name\": %s, \"same_name_as\": %s, \"keys\": [", b,
+              ToJson(script.GetCfgName(b)).c_str(), same_as >= 0 ? std::to_string(same_as).c_str() : "null");
+  for (int k = 0; k < script.GetKeyCntAt(b); ++k)
+    std::printf("%s{\"key\": %s, \"value\": %s}", k ? ", " : "", ToJson(script.GetKeyNameAt(b, k)).c_str(),
+                ToJson(script.GetKeyValAt(b, k)).c_str());
+  std::printf("]}%s\n", last ? "" : ",");
 }
 
 }  // namespace
 
-int RunScript(const Args& args) {
-  std::string file;
-  std::string block;
-  bool raw = false;
-  bool has_block = false;
-  for (size_t i = 0; i < args.size(); ++i) {
-    if (args[i] == "--raw") {
-      raw = true;
-    } else if (args[i] == "--block") {
-      if (i + 1 >= args.size()) return Fail(2, "--block needs a block name");
-      block = args[++i];
-      has_block = true;
-    } else if (!args[i].empty() && args[i][0] == '-') {
-      return Fail(2, "unknown option '" + args[i] + "'");
-    } else if (file.empty()) {
-      file = args[i];
-    } else {
-      return Fail(2, "script takes one file");
-    }
-  }
-  if (file.empty()) return Fail(2, "usage: mapcfg script FILE [--block NAME] [--raw]");
-  if (!CanRead(file)) return Fail(1, "cannot read " + file);
+int RunScript(const Call& call) {
+  const bool raw = call.Has("--raw");
+  const bool json = call.Has("--json");
+  if (raw && json) return UsageError("--raw and --json exclude each other");
+  const std::string& file = call.operands[0];
+  ScriptInput input;
+  std::string why;
+  if (!input.Open(file, &why)) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + why);
 
   mapcfg::CCfgScript script;
-  script.Open(file.c_str(), 0);
-  if (has_block) {
-    const int count = script.GetKeyCnt(block.c_str());
-    if (count < 0) return Fail(1, "no block named '" + block + "' in " + file);
-    for (int b = 0; b < script.GetCfgCnt(); ++b)
-      if (Folded(script.GetCfgName(b)) == Folded(block)) {
-        std::printf("[%d] Config: %s\n", b, ToDisplay(script.GetCfgName(b), raw).c_str());
-        break;
-      }
-    for (int k = 0; k < count; ++k)
-      std::printf("  %s = %s\n", ToDisplay(script.GetKeyName(block.c_str(), k), raw).c_str(),
-                  ToDisplay(script.GetKeyVal(block.c_str(), k), raw).c_str());
+  Guard guard;
+  try {
+    script.Open(input.path().c_str(), 0, &guard);
+  } catch (const ReadStopped& e) {
+    return Fail(1, NameToDisplay(input.Shown(e.included)) + " is " + e.what() + ": reading stopped there");
+  }
+
+  // The blocks to show, each with the earlier block of the same name.
+  std::vector<std::pair<int, int>> shown;
+  std::map<std::string, int> first;
+  for (int b = 0; b < script.GetCfgCnt(); ++b) {
+    const auto seen = first.emplace(Folded(script.GetCfgName(b)), b);
+    shown.emplace_back(b, seen.second ? -1 : seen.first->second);
+  }
+  if (call.Has("--block")) {
+    const int b = FindBlock(script, call.Value("--block"));
+    if (b < 0)
+      return Fail(1, "no block named '" + NameToDisplay(call.Value("--block")) + "' in " + NameToDisplay(input.Shown(input.path())));
+    shown = {shown[static_cast<size_t>(b)]};
+  }
+  if (!json) {
+    for (const auto& s : shown) PrintBlock(script, s.first, s.second, raw);
     return 0;
   }
-  PrintAll(script, raw);
+  std::printf("{\"file\": %s, \"blocks\": [\n", NameToJson(input.Shown(input.path())).c_str());
+  for (size_t i = 0; i < shown.size(); ++i) PrintBlockJson(script, shown[i].first, shown[i].second, i + 1 == shown.size());
+  std::printf("]}\n");
   return 0;
 }
 

@@ -24,24 +24,6 @@ struct Options {
   std::string find;
 };
 
-// The text as shown: UTF-8 (unless raw), with line breaks and tabs escaped
-// so that every entry stays on one line.
-std::string Shown(const std::string& bytes, bool raw) {
-  std::string out;
-  for (char c : ToDisplay(bytes, raw)) {
-    if (c == '\r') {
-      out += "\\r";
-    } else if (c == '\n') {
-      out += "\\n";
-    } else if (c == '\t') {
-      out += "\\t";
-    } else {
-      out += c;
-    }
-  }
-  return out;
-}
-
 std::string Text(const Options& o, int lang, int index) {
   return o.help_rows ? mapcfg::sGetHelpStr(static_cast<char>(lang), index)
                      : mapcfg::sGetCfgStr(static_cast<char>(lang), index);
@@ -50,8 +32,8 @@ std::string Text(const Options& o, int lang, int index) {
 // Prints entry `index` if it matches --find (in either language, whatever
 // --lang shows); returns whether it was printed.
 bool PrintEntry(const Options& o, int index) {
-  const std::string en = Shown(Text(o, 0, index), o.raw);
-  const std::string zh = Shown(Text(o, 1, index), o.raw);
+  const std::string en = ToDisplay(Text(o, 0, index), o.raw);
+  const std::string zh = ToDisplay(Text(o, 1, index), o.raw);
   if (o.has_find) {
     const std::string needle = Folded(o.find);
     const bool hit =
@@ -78,37 +60,30 @@ bool ParseIndex(const std::string& text, int& index) {
 
 }  // namespace
 
-int RunStrings(const Args& args) {
+int RunStrings(const Call& call) {
   Options o;
-  for (size_t i = 0; i < args.size(); ++i) {
-    const std::string& a = args[i];
-    if (a == "--help-rows") {
-      o.help_rows = true;
-    } else if (a == "--raw") {
-      o.raw = true;
-    } else if (a == "--lang") {
-      if (i + 1 >= args.size()) return Fail(2, "--lang needs en or zh");
-      const std::string& l = args[++i];
-      if (l == "en") {
-        o.lang = 0;
-      } else if (l == "zh") {
-        o.lang = 1;
-      } else {
-        return Fail(2, "--lang takes en or zh, not '" + l + "'");
-      }
-    } else if (a == "--find") {
-      if (i + 1 >= args.size()) return Fail(2, "--find needs a text");
-      o.find = args[++i];
-      o.has_find = true;
-    } else if (!a.empty() && a[0] == '-') {
-      return Fail(2, "unknown option '" + a + "'");
-    } else if (!o.has_index && ParseIndex(a, o.index)) {
-      o.has_index = true;
+  o.help_rows = call.Has("--help-rows");
+  o.raw = call.Has("--raw");
+  if (call.Has("--lang")) {
+    const std::string& l = call.Value("--lang");
+    if (l == "en") {
+      o.lang = 0;
+    } else if (l == "zh") {
+      o.lang = 1;
     } else {
-      return Fail(2, "strings takes one INDEX (a number), not '" + a + "'");
+      return UsageError("--lang takes en or zh, not '" + NameToDisplay(l) + "'");
     }
   }
-  if (o.has_index && o.has_find) return Fail(2, "give INDEX or --find, not both");
+  if (call.Has("--find")) {
+    o.find = call.Value("--find");
+    o.has_find = true;
+  }
+  if (!call.operands.empty()) {
+    if (!ParseIndex(call.operands[0], o.index))
+      return UsageError("INDEX is a number, not '" + NameToDisplay(call.operands[0]) + "'");
+    o.has_index = true;
+  }
+  if (o.has_index && o.has_find) return UsageError("give INDEX or --find, not both");
 
   const int count = o.help_rows ? mapcfg::kHelpStrCount : mapcfg::kCfgStrCount;
   const char* what = o.help_rows ? "help row" : "configuration string";
@@ -121,7 +96,7 @@ int RunStrings(const Args& args) {
   }
   bool any = false;
   for (int i = 0; i < count; ++i) any = PrintEntry(o, i) || any;
-  if (!any) return Fail(1, std::string("no ") + what + " contains '" + o.find + "'");
+  if (!any) return Fail(1, std::string("no ") + what + " contains '" + NameToDisplay(o.find) + "'");
   return 0;
 }
 

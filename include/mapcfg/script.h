@@ -49,12 +49,26 @@ constexpr int kMaxPhysicalLine = 2047;
 // Observer of what the reader does with a script, row by row. Every callback
 // has an empty default. `file` is the path as the reader opened it; `line` is
 // the 1-based number of the source line where the reported thing starts.
+// The reader lets an exception thrown by a callback pass out of Open: every
+// file the read opened is closed, and the blocks completed before it stay.
 class MAPCFG_EXPORT ScriptEvents {
  public:
   virtual ~ScriptEvents();
   // A file was opened; depth 1 is the file given to Open.
   virtual void OnFileBegin(const std::string& file, int depth);
   virtual void OnFileEnd(const std::string& file, int depth);
+  // Every physical line piece (see OnLineSplit) as the reader takes it:
+  // untrimmed, without its line end. `nul` tells that a NUL byte cut it: the
+  // piece ends before that byte and the rest of it is not read.
+  virtual void OnLine(const std::string& file, int line, const std::string& text, bool nul);
+  // A Ctrl-Z byte on `line` ended the file. `text_after` tells whether
+  // anything other than white space, NUL and Ctrl-Z bytes follows it (looking at most
+  // 1 MiB past it); such text is not read.
+  virtual void OnCtrlZ(const std::string& file, int line, bool text_after);
+  // The trimmed line `piece` (at `line`) ended in "_", so the trimmed line
+  // `next_piece` (at `next_line`) was joined to its row.
+  virtual void OnJoin(const std::string& file, int line, const std::string& piece, int next_line,
+                      const std::string& next_piece);
   // A physical line longer than kMaxPhysicalLine was split; the piece after
   // the split is read as a row of its own.
   virtual void OnLineSplit(const std::string& file, int line);
@@ -73,8 +87,10 @@ class MAPCFG_EXPORT ScriptEvents {
   // `row` (read at `row_line`) is consumed with it.
   virtual void OnHeaderAbandoned(const std::string& file, int line, const std::string& name,
                                  int row_line, const std::string& row);
-  // A key row inside a block.
-  virtual void OnKey(const std::string& file, int line, const std::string& block, const std::string& key);
+  // A key row inside a block. `has_equals` is false for a row without "=":
+  // the whole row is then the key and the value is empty.
+  virtual void OnKey(const std::string& file, int line, const std::string& block, const std::string& key,
+                     bool has_equals);
   // A key row of an open block that looks like a block header.
   virtual void OnHeaderInBlock(const std::string& file, int line, const std::string& block);
   // A block was completed by its "End" row and appended.
