@@ -5,6 +5,7 @@
 #include <mapcfg/mapcfg.h>
 
 #include <cctype>
+#include <iterator>
 #include <string>
 
 #include "test_util.h"
