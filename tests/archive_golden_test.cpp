@@ -134,6 +134,11 @@ Form Attribute(T start, int (CFFArchive::*get)(T&, uint32_t), int (CFFArchive::*
 const LINE_PROP kLineStart{7, -7.0f, "start"};
 const PATT_PROP kPattStart{7, 7, -7.0f, "start"};
 const FONT_PROP kFontStart{7, -7.0f, -7.0f, -7.0f, -7, 7, {7, 7, 7, 7, 7, 7, 7}, "start"};
+const _SysCfgParam kSysStart{-7.0, 7, 7, {"old"}, {9.0}, {"o"}, {"old"}, {9.0}, {"o"}};
+Form SysParam(uint32_t version) {
+  return Rec(kSysStart, [=](CFFArchive& a, _SysCfgParam& v) { return a.GetSysCfgParam(&v, version); },
+             [](CFFArchive& a, const _SysCfgParam& v) { a.PutSysCfgParam(&v); });
+}
 
 // The TestData listing from the read position, "\r\n" shown as ";" and
 // spaces as "_".
@@ -179,6 +184,8 @@ const std::map<std::string, Form> kForms = {
     {"patt_old", Attribute(kPattStart, &CFFArchive::GetPattProp, &CFFArchive::PutPattProp, 0x02007343)},
     {"fontprop", Rec(kFontStart, [](CFFArchive& a, FONT_PROP& v) { return a.GetFontProp(v); },
                      [](CFFArchive& a, const FONT_PROP& v) { a.PutFontProp(v); })},
+    {"sysparam", SysParam(0x03012067)},
+    {"sysparam_old", SysParam(0x03012066)},
 };
 
 // True when exactly `n` bytes of the stream have been read.

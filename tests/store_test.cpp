@@ -3,7 +3,6 @@
 // boxes, information texts and resource libraries, extension and menu
 // lists, the module cache and extra functions.
 #include <gtest/gtest.h>
-#include <iconv.h>
 #include <mapcfg/store.h>
 
 #include <algorithm>
@@ -30,6 +29,7 @@ using mapcfg::sGetCfgTemplName;
 using mapcfg::sGetHelpStr;
 using mapcfg::sGetInfoStr;
 using mapcfg::StringArray;
+using mapcfg_test::GbkToUtf8;
 using Rows = std::vector<std::vector<std::string>>;
 using namespace std::string_literals;
 
@@ -46,19 +46,6 @@ Rows ReadRows(const std::string& name) {
     for (std::string field; std::getline(fields, field, '\t');) rows.back().push_back(field);
   }
   return rows;
-}
-
-// GBK bytes as UTF-8, or "<not GBK>" when they are not valid GBK.
-std::string GbkToUtf8(std::string gbk) {
-  const iconv_t cd = iconv_open("UTF-8", "GBK");
-  if (cd == reinterpret_cast<iconv_t>(-1)) return "<no converter>";
-  std::string out(gbk.size() * 2 + 4, '\0');
-  char *from = gbk.data(), *to = out.data();
-  size_t from_left = gbk.size(), to_left = out.size();
-  const size_t converted = iconv(cd, &from, &from_left, &to, &to_left);
-  iconv_close(cd);
-  out.resize(out.size() - to_left);
-  return converted == static_cast<size_t>(-1) ? "<not GBK>" : out;
 }
 
 TEST(StoreSettings, ReadRulesAndTheExactBytesWritten) {

@@ -1,5 +1,6 @@
 #include "test_util.h"
 
+#include <iconv.h>
 #include <mapcfg/store.h>
 
 #include <cstdio>
@@ -29,7 +30,7 @@ std::string TempDir::Write(const std::string& name, const std::string& bytes) co
 
 struct StoreGuard::Saved {
   char lang = *mapcfg::sGetCfgLang();
-  std::string dirs[7] = {*mapcfg::sGetHomeDirPtr(),    *mapcfg::sGetConfigDirPtr(),   *mapcfg::sGetWorkProjDirPtr(),
+  std::string dirs[7] = {*mapcfg::sGetHomeDirPtr(),    *mapcfg::sGetConfigDirPtr(),  *mapcfg::sGetWorkProjDirPtr(),
                          *mapcfg::sGetOpenMapDirPtr(), *mapcfg::sGetSaveMapDirPtr(), *mapcfg::sGetOpenFileDirPtr(),
                          *mapcfg::sGetSaveFileDirPtr()};
   std::string templ = *mapcfg::sGetCfgTemplName();
@@ -43,7 +44,7 @@ StoreGuard::StoreGuard() : saved_(std::make_unique<Saved>()) {}
 
 StoreGuard::~StoreGuard() {
   *mapcfg::sGetCfgLang() = saved_->lang;
-  std::string* dirs[7] = {mapcfg::sGetHomeDirPtr(),    mapcfg::sGetConfigDirPtr(),   mapcfg::sGetWorkProjDirPtr(),
+  std::string* dirs[7] = {mapcfg::sGetHomeDirPtr(),    mapcfg::sGetConfigDirPtr(),  mapcfg::sGetWorkProjDirPtr(),
                           mapcfg::sGetOpenMapDirPtr(), mapcfg::sGetSaveMapDirPtr(), mapcfg::sGetOpenFileDirPtr(),
                           mapcfg::sGetSaveFileDirPtr()};
   for (int i = 0; i < 7; ++i) *dirs[i] = saved_->dirs[i];
@@ -63,6 +64,19 @@ std::string ReadAll(const std::string& path) {
   std::ostringstream s;
   s << in.rdbuf();
   return s.str();
+}
+
+std::string Iconv(const char* to, const char* from, std::string text) {
+  const iconv_t cd = iconv_open(to, from);
+  if (cd == reinterpret_cast<iconv_t>(-1)) return "<no converter>";
+  // Between GBK and UTF-8 a character grows by half at most.
+  std::string out(text.size() * 2 + 4, '\0');
+  char *in = text.data(), *at = out.data();
+  size_t in_left = text.size(), out_left = out.size();
+  const size_t converted = iconv(cd, &in, &in_left, &at, &out_left);
+  iconv_close(cd);
+  out.resize(out.size() - out_left);
+  return converted == static_cast<size_t>(-1) ? std::string("<not ") + from + ">" : out;
 }
 
 }  // namespace mapcfg_test

@@ -1,0 +1,91 @@
+// The example oil-field configuration: its Chinese script is the GBK form of
+// its UTF-8 source, the English and Chinese twins hold the same blocks and
+// rows, and the store reads both alike.
+#include <gtest/gtest.h>
+#include <mapcfg/mapcfg.h>
+
+#include <cctype>
+#include <iterator>
+#include <string>
+
+#include "test_util.h"
+
+using namespace mapcfg;
+
+namespace {
+
+const std::string kEn = MAPCFG_EXAMPLES "/en/field.cfg";
+const std::string kZh = MAPCFG_EXAMPLES "/zh/field.cfg";
+
+// A value's separators and numbers (decimal or hexadecimal), every other
+// field as "*": what the two languages share.
+std::string Shape(const String& value) {
+  std::string shape, field;
+  const auto flush = [&] {
+    const size_t first = field.find_first_not_of(' '), last = field.find_last_not_of(' ');
+    field = first == std::string::npos ? "" : field.substr(first, last - first + 1);
+    bool number = true;
+    for (const char c : field)
+      number = number && (std::isxdigit(static_cast<unsigned char>(c)) || c == '.' || c == '-');
+    shape += number ? field : "*";
+    field.clear();
+  };
+  for (const char c : value) {
+    if (c == ';' || c == ':') {
+      flush();
+      shape += c;
+    } else {
+      field += c;
+    }
+  }
+  flush();
+  return shape;
+}
+
+TEST(Examples, ChineseScriptIsTheGbkFormOfItsSource) {
+  const std::string source = mapcfg_test::ReadAll(MAPCFG_EXAMPLES "/zh/field.utf8.cfg");
+  ASSERT_FALSE(source.empty());
+  EXPECT_EQ(mapcfg_test::ReadAll(kZh), mapcfg_test::Iconv("GBK", "UTF-8", source))
+      << "remake it: iconv -f UTF-8 -t GBK examples/zh/field.utf8.cfg > examples/zh/field.cfg";
+}
+
+TEST(Examples, TwinsHoldTheSameBlocksAndRowsAndReadAlike) {
+  mapcfg_test::StoreGuard guard;
+  // Configuration strings of the blocks, in file order.
+  const int kBlocks[] = {530, 3, 2, 4, 9, 8, 198, 200, 535, 192, 195, 1, 12, 14, 15, 320};
+  CCfgScript en, zh;
+  en.Open(kEn.c_str(), 0);
+  zh.Open(kZh.c_str(), 0);
+  ASSERT_EQ(en.GetCfgCnt(), static_cast<int>(std::size(kBlocks)));
+  ASSERT_EQ(zh.GetCfgCnt(), en.GetCfgCnt());
+  for (int b = 0; b < en.GetCfgCnt(); ++b) {
+    SCOPED_TRACE(en.GetCfgName(b));
+    EXPECT_EQ(en.GetCfgName(b), sGetCfgStr(0, kBlocks[b]));
+    EXPECT_EQ(zh.GetCfgName(b), sGetCfgStr(1, kBlocks[b]));
+    EXPECT_GE(en.GetKeyCntAt(b), 3);
+    ASSERT_EQ(zh.GetKeyCntAt(b), en.GetKeyCntAt(b));
+    for (int k = 0; k < en.GetKeyCntAt(b); ++k)
+      EXPECT_EQ(Shape(zh.GetKeyValAt(b, k)), Shape(en.GetKeyValAt(b, k))) << en.GetKeyNameAt(b, k);
+  }
+
+  // Each script read in its own language gives the same settings.
+  std::string read[2];
+  for (int lang : {0, 1}) {
+    sCfgGetLibDllsPtr()->clear();  // sCfgClearPlate leaves the extension lists
+    sCfgGetMenuFunsPtr()->clear();
+    *sGetCfgLang() = static_cast<char>(lang);
+    CCfgScript& script = lang ? zh : en;
+    sCfgReadSysCfgParam(script);
+    sCfgReadLibDlls(script);
+    sCfgReadMenuFuns(script);
+    for (const FieldText& f : sDescribe(*sCfgGetSysCfgParamPtr())) read[lang] += f.value + ";";
+    for (const StringArray* files : {sCfgGetLibDllsPtr(), sCfgGetMenuFunsPtr()})
+      for (const String& file : *files) read[lang] += file + ";";
+  }
+  EXPECT_EQ(read[0],
+            "145.5;0;0;WellImport.dll;CurveTools.dll;ReservoirSection.dll;GridEdit.exe;WellBrowse.exe;"
+            "ProdAnalysis.exe;");
+  EXPECT_EQ(read[1], read[0]);
+}
+
+}  // namespace
