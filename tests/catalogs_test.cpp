@@ -107,4 +107,74 @@ TEST(RecordCatalogs, ArrayFormsThrowAtAShorterSecondArray) {
   EXPECT_THROW(a.PutLithPropArray(first, &first, &second), std::out_of_range);
 }
 
+TEST(SymbolCatalogs, SortedTablesPresetColoursTextFormatsSourcesAndContours) {
+  mapcfg_test::StoreGuard guard;
+  *sGetCfgLang() = 0;
+  struct Table {
+    const char* block;
+    void (*read)(CCfgScript&);
+    StringArray* (*names)();
+    StringArray* (*values)();
+    String (*find)(const String&);
+  };
+  const Table kTables[] = {
+      {"OilGasControlTable", sCfgReadYQXSs, sCfgGetYQXSNamesPtr, sCfgGetYQXSPictsPtr, sCfgFindYQXS},
+      {"MaterialContainingTable", sCfgReadHYWs, sCfgGetHYWNamesPtr, sCfgGetHYWPictsPtr, sCfgFindHYW},
+      {"LithPrefixCorrelation", sCfgReadYXQZs, sCfgGetYXQZNamesPtr, sCfgGetYXQZPictsPtr, sCfgFindYXQZ},
+      {"StructureSymbolTable", sCfgReadGZFHs, sCfgGetGZFHNamesPtr, sCfgGetGZFHPictsPtr, sCfgFindGZFH},
+      {"Label_Curve", sCfgReadLabelCrvs, sCfgGetLabelCrvCodesPtr, sCfgGetLabelCrvValsPtr, sCfgFindLabelCrv},
+  };
+  for (const Table& t : kTables) {  // the values name their table, so a mix-up shows
+    const std::string b = t.block;
+    Read(Block(b, "Oil Spot = 1" + b + "\nOil = 2" + b + "\noil = 3" + b + "\n"), {t.read});
+    EXPECT_EQ(*t.names(), (StringArray{"Oil", "oil", "Oil Spot"})) << b;
+    EXPECT_EQ(*t.values(), (StringArray{"2" + b, "3" + b, "1" + b})) << b;
+    EXPECT_EQ(t.find("OIL SPOT") + "|" + t.find("Oil Spots"), "1" + b + "|");
+  }
+
+  // Preset colours: three keys leave the other slots white, of twenty keys
+  // sixteen are used.
+  std::string twenty;
+  for (int i = 1; i <= 20; ++i) twenty += "c = " + std::to_string(i) + "\n";
+  for (const auto& [rows, expected] : {std::pair<std::string, std::string>{"a = 0000FF\nb =\nc = 00ff00\n",
+                                                                           "0000ff00000000ff00" + std::string(78, 'f')},
+                                       {twenty,
+                                        "000001000002000003000004000005000006000007000008000009000010"
+                                        "000011000012000013000014000015000016"}}) {
+    std::fill_n(sCfgGetPrevColorPtr(), 16, 7u);
+    Read(Block("Init_Colors", rows), {sCfgReadPrevColor});
+    std::string got;
+    for (int i = 0; i < 16; ++i) got += Hex(sCfgGetPrevColorPtr()[i]);
+    EXPECT_EQ(got, expected);
+  }
+
+  // {text format, its fields}; a separator is described as its character code.
+  const std::pair<std::string, std::string> kFormats[] = {
+      {"a; b; c : d; e; 12 : 3 : [return] : mm : Nn : 4 : x : Tail", "a,b,c,d,e,12,3,10,MM,NN,4,88,Tail"},
+      {"only", "only,,,,,0,0,32,,,0,32,"},
+      {":::[Space]::::[RETURN]", ",,,,,0,0,32,,,0,10,"},
+      {"::: ;x : \x95\x73s", ",,,,,0,0,59,\x95\x73S,,0,32,"},  // 晄 keeps its second byte
+  };
+  std::string rows, fields;
+  for (const auto& [value, described] : kFormats) {
+    rows += "f = " + value + "\nempty =\n";
+    fields += "|" + described;
+  }
+  Read(Block("Text_Format", rows) + Block("ColorTable", "Red = 0000FF\nblack =\nGrey = 0x808080\n") +
+           Block("Data_Source", "Wells = a.db\nLogs = b.db\nWells = c.db\n") +
+           Block("ContourCreatingParameters", "1 = GR ; 100\n2 = SP;\n3 = none\n4 = ; v\n5 = a;b;c\n"),
+       {sCfgReadTextFmts, sCfgReadColors, sCfgReadDataSrcs, sCfgIsoLineProp});
+  EXPECT_EQ(*sCfgGetTextFmtNamesPtr(), StringArray(std::size(kFormats), "f"));
+  EXPECT_EQ("|" + Described(*sCfgGetTextFmtsPtr()), fields);
+  sCfgClearTextFmts();
+  EXPECT_TRUE(sCfgGetTextFmtNamesPtr()->empty() && sCfgGetTextFmtsPtr()->empty());
+  EXPECT_EQ(*sCfgGetColorNamesPtr(), (StringArray{"black", "Grey", "Red"}));
+  EXPECT_EQ(*sCfgGetColorsPtr(), (std::vector<uint32_t>{0, 0x808080, 0xFF}));
+  EXPECT_EQ(Hex(sCfgFindColor("RED")) + Hex(sCfgFindColor("Blue")), "0000ffffffff");
+  EXPECT_EQ(*sCfgGetDataSrcNamesPtr(), (StringArray{"Wells", "Logs", "Wells"}));
+  EXPECT_EQ(*sCfgGetDataSrcValsPtr(), (StringArray{"a.db", "b.db", "c.db"}));
+  EXPECT_EQ(*sCfgGetIsoPropCodesPtr(), (StringArray{"GR", "", "a"}));
+  EXPECT_EQ(*sCfgGetIsoPropValsPtr(), (StringArray{"100", "v", "b;c"}));
+}
+
 }  // namespace
