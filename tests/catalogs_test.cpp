@@ -177,4 +177,56 @@ TEST(SymbolCatalogs, SortedTablesPresetColoursTextFormatsSourcesAndContours) {
   EXPECT_EQ(*sCfgGetIsoPropValsPtr(), (StringArray{"100", "v", "b;c"}));
 }
 
+TEST(LithDescription, SplitsColourShowModifiersAndBase) {
+  mapcfg_test::StoreGuard guard;
+  *sGetCfgLang() = 1;
+  const std::string grey = "\xBB\xD2\xC9\xAB", fluor = "\xD3\xAB\xB9\xE2", oil = "\xD3\xCD", spot = "\xB0\xDF";
+  const std::string gravel = "\xBA\xAC\xC0\xF9", shaly = "\xC4\xE0\xD6\xCA", massive = "\xBF\xE9\xD7\xB4";
+  const std::string sand = "\xC9\xB0\xD1\xD2", mud = "\xC4\xE0\xD1\xD2";
+  // 灰色 荧光 油 斑 含砾 泥质 块状 砂岩 泥岩 above; the blocks below: 颜色对照表,
+  // 油气显示对照表, 含有物对照表, 岩性前缀对照表, 构造符号对照表, 岩性符号配置表.
+  Read(Block("\xD1\xD5\xC9\xAB\xB6\xD4\xD5\xD5\xB1\xED", grey + " = 808080\n") +
+           Block("\xD3\xCD\xC6\xF8\xCF\xD4\xCA\xBE\xB6\xD4\xD5\xD5\xB1\xED",
+                 oil + spot + " = YB\n" + fluor + " = YG\n" + oil + " = Y\n") +
+           Block("\xBA\xAC\xD3\xD0\xCE\xEF\xB6\xD4\xD5\xD5\xB1\xED", gravel + " = HL\nCa = CA\n") +
+           Block("\xD1\xD2\xD0\xD4\xC7\xB0\xD7\xBA\xB6\xD4\xD5\xD5\xB1\xED", shaly + " = NZ\n") +
+           Block("\xB9\xB9\xD4\xEC\xB7\xFB\xBA\xC5\xB6\xD4\xD5\xD5\xB1\xED", massive + " = KZ\n") +
+           Block("\xD1\xD2\xD0\xD4\xB7\xFB\xBA\xC5\xC5\xE4\xD6\xC3\xB1\xED",
+                 mud + " = Mudstone: 0.8; MS; PMS\n" + sand + " = Sandstone: 0.6; SS; PSS\n" + massive + sand +
+                     " = Massive: 0.7; KSS; PKSS\n" + gravel + sand + " = Gravelly: 0.9; GSS; PGSS\n"),
+       {sCfgReadColors, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs, sCfgReadGZFHs, sCfgReadLithProps});
+
+  // {description, caller's colour name (the oil show comes in as "o")} ->
+  // description, oil show, colour name, lithology, ratio, parts 1-4, symbols
+  // 1-4, pattern, oil-show symbol, colour
+  const std::pair<std::vector<std::string>, std::vector<std::string>> kCases[] = {
+      // every part; the containing material matched without ASCII case
+      {{grey + fluor + "cA" + shaly + massive + mud, "c"},
+       {mud, fluor, grey, "Mudstone", "0.8", mud, massive, shaly, "Ca", "MS", "KZ", "NZ", "CA", "PMS", "YG", "808080"}},
+      // structure + base is one lithology code; no colour keeps the caller's
+      {{massive + sand, grey},
+       {sand, "o", grey, "Massive", "0.7", sand, "", "", "", "KSS", "", "", "", "PKSS", "", "808080"}},
+      // material + base, with the empty parts between, is one code
+      {{gravel + sand, "c"},
+       {sand, "o", "c", "Gravelly", "0.9", sand, "", "", "", "GSS", "", "", "", "PGSS", "", "ffffff"}},
+      // the shorter oil show sorts first and is cut; no lithology is found
+      {{oil + spot + sand, "c"},
+       {spot + sand, oil, "c", "", "1", spot + sand, "", "", "", "", "", "", "", "", "Y", "ffffff"}},
+  };
+  for (const auto& [in, expected] : kCases) {
+    String description = in[0], show = "o", color_name = in[1], lith = "x", pattern = "x", symbol = "x";
+    String parts[4] = {"x", "x", "x", "x"}, symbols[4] = {"x", "x", "x", "x"};
+    double ratio = -1;
+    uint32_t color = 0;
+    EXPECT_EQ(sCfgGetLithPropByCode(description, show, color_name, lith, ratio, parts, symbols, pattern, symbol, color),
+              4);
+    std::ostringstream ratio_text;
+    ratio_text << ratio;
+    EXPECT_EQ((std::vector<std::string>{description, show, color_name, lith, ratio_text.str(), parts[0], parts[1],
+                                        parts[2], parts[3], symbols[0], symbols[1], symbols[2], symbols[3], pattern,
+                                        symbol, Hex(color)}),
+              expected);
+  }
+}
+
 }  // namespace
