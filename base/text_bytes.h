@@ -32,6 +32,21 @@ inline bool EqualsNoCase(const std::string& a, const char* b) {
   return EqualsNoCase(a.data(), a.size(), b, std::char_traits<char>::length(b));
 }
 
+// A GBK lead byte: it and the byte after it are one character.
+inline bool IsGbkLead(char c) {
+  const unsigned char u = static_cast<unsigned char>(c);
+  return u >= 0x81 && u <= 0xFE;
+}
+
+// Bytes of the character at s[i]: 2 for a GBK pair, else 1.
+inline size_t CharLen(const std::string& s, size_t i) { return IsGbkLead(s[i]) && i + 1 < s.size() ? 2 : 1; }
+
+// ASCII letters to upper case; both bytes of a GBK pair stay as they are.
+inline std::string UpperCopy(std::string s) {
+  for (size_t i = 0; i < s.size(); i += CharLen(s, i)) s[i] = UpperAscii(s[i]);
+  return s;
+}
+
 inline void TrimRight(std::string& s) {
   size_t n = s.size();
   while (n > 0 && IsSpace(s[n - 1])) --n;

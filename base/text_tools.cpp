@@ -8,22 +8,8 @@ namespace mapcfg {
 
 namespace {
 
-// A GBK lead byte: it and the byte after it are one character.
-bool IsLead(char c) {
-  const unsigned char u = static_cast<unsigned char>(c);
-  return u >= 0x81 && u <= 0xFE;
-}
-
-// Bytes of the character at s[i]: 2 for a GBK pair, else 1.
-size_t CharLen(const String& s, size_t i) { return IsLead(s[i]) && i + 1 < s.size() ? 2 : 1; }
-
+using detail::CharLen;
 using detail::UpperAscii;
-
-String UpperCopy(const char* text) {
-  String s = text ? text : "";
-  for (size_t i = 0; i < s.size(); i += CharLen(s, i)) s[i] = UpperAscii(s[i]);
-  return s;
-}
 
 // Length in bytes of the common prefix, ASCII case ignored; a double-byte
 // character counts only when both of its bytes are equal.
@@ -66,7 +52,7 @@ void AppendMarked(String& out, const String& part, char mark) {
 int sLeftFindSameCnt(const String& a, const String& b) { return static_cast<int>(SamePrefix(a, b)); }
 
 String sLeftGetSameStr(const char* a, const char* b) {
-  const String ua = UpperCopy(a);
+  const String ua = detail::UpperCopy(a ? a : "");
   return ua.substr(0, SamePrefix(ua, b ? String(b) : String()));
 }
 

@@ -113,6 +113,14 @@ Form Record(int (CFFArchive::*get)(T*), int (CFFArchive::*put)(const T*)) {
   };
 }
 
+// The fields of a record, each after a comma.
+template <class T>
+std::string Fields(const T& v) {
+  std::string s;
+  for (const FieldText& f : sDescribe(v)) s += "," + (f.kind == FieldText::kText ? Text(f.value) : f.value);
+  return s;
+}
+
 // A record read by `get` into a target that starts as `start`, written back
 // by `put`; the text is the reader's result, then the record's fields.
 template <class T, class Get, class Put>
@@ -121,8 +129,30 @@ Form Rec(T start, Get get, Put put) {
     T v = start;
     const int ok = get(in, v);
     if (out) put(*out, v);
+    return Text(ok) + Fields(v);
+  };
+}
+// A catalogue record by pointer.
+template <class T>
+Form Catalog(T start, int (CFFArchive::*get)(T*), int (CFFArchive::*put)(const T*)) {
+  return Rec(start, [=](CFFArchive& a, T& v) { return (a.*get)(&v); },
+             [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
+}
+// Catalogue records as three arrays; the text is the reader's result, then
+// each array's records in brackets, separated by "/".
+template <class T>
+Form CatalogRows(int (CFFArchive::*get)(RecordArray<T>&, RecordArray<T>*, RecordArray<T>*),
+                 int (CFFArchive::*put)(const RecordArray<T>&, const RecordArray<T>*, const RecordArray<T>*)) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<T> arrays[3];
+    const int ok = (in.*get)(arrays[0], &arrays[1], &arrays[2]);
+    if (out) (out->*put)(arrays[0], &arrays[1], &arrays[2]);
     std::string s = Text(ok);
-    for (const FieldText& f : sDescribe(v)) s += "," + (f.kind == FieldText::kText ? Text(f.value) : f.value);
+    for (const RecordArray<T>& records : arrays) {
+      std::string items;
+      for (const std::unique_ptr<T>& r : records) items += "/" + Fields(*r).substr(1);
+      s += "[" + items.substr(items.empty() ? 0 : 1) + "]";
+    }
     return s;
   };
 }
@@ -139,6 +169,9 @@ Form SysParam(uint32_t version) {
   return Rec(kSysStart, [=](CFFArchive& a, _SysCfgParam& v) { return a.GetSysCfgParam(&v, version); },
              [](CFFArchive& a, const _SysCfgParam& v) { a.PutSysCfgParam(&v); });
 }
+const _StatusProp kStatusStart{"start", 7, -7, 7};
+const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
+const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
 
 // The TestData listing from the read position, "\r\n" shown as ";" and
 // spaces as "_".
@@ -186,6 +219,10 @@ const std::map<std::string, Form> kForms = {
                      [](CFFArchive& a, const FONT_PROP& v) { a.PutFontProp(v); })},
     {"sysparam", SysParam(0x03012067)},
     {"sysparam_old", SysParam(0x03012066)},
+    {"status", Catalog(kStatusStart, &CFFArchive::GetStatusProp, &CFFArchive::PutStatusProp)},
+    {"interpret", Catalog(kInterpretStart, &CFFArchive::GetInterpretProp, &CFFArchive::PutInterpretProp)},
+    {"lith", Catalog(kLithStart, &CFFArchive::GetLithProp, &CFFArchive::PutLithProp)},
+    {"liths", CatalogRows(&CFFArchive::GetLithPropArray, &CFFArchive::PutLithPropArray)},
 };
 
 // True when exactly `n` bytes of the stream have been read.
