@@ -41,6 +41,7 @@ int RunScript(const Call& call);
 int RunCheck(const Call& call);
 int RunDump(const Call& call);
 int RunStrings(const Call& call);
+int RunShow(const Call& call);
 
 // Prints "mapcfg: " + message on stderr and returns `status`.
 int Fail(int status, const std::string& message);

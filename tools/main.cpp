@@ -34,6 +34,14 @@ const Command kCommands[] = {
       kRaw},
      "configuration strings (block and key names) by index, English and Chinese side by side",
      RunStrings},
+    {"show", "[FILE...]", 0, -1,
+     {{"--table", "NAME", "only that table (sysparam, status, lith, colors, ...)"},
+      {"--lang", "en|zh", "read the scripts' blocks in that language (default: the one they use)"},
+      {"--archive", "FILE", "load a whole-store archive (sCfgReadMain) instead of scripts"},
+      {"--version", "N", "the archive version to read it with (default: the current layout)"},
+      kRaw},
+     "the configuration tables the scripts or a whole-store archive fill, record by record",
+     RunShow},
 };
 
 const Command* g_running = nullptr;

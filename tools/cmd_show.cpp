@@ -1,0 +1,233 @@
+// mapcfg show: the configuration tables the library fills, read from
+// scripts with every reader it has, or from a whole-store archive.
+#include <mapcfg/mapcfg.h>
+
+#include <cstdio>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+#include "display_text.h"
+#include "input.h"
+
+namespace mapcfg_tool {
+
+namespace {
+
+using mapcfg::FieldText;
+using mapcfg::FieldTexts;
+using mapcfg::String;
+using mapcfg::StringArray;
+
+struct Guard : mapcfg::ScriptEvents {
+  void OnFileBegin(const std::string& file, int depth) override {
+    if (depth > 1) StopUnlessRegular(file);
+  }
+};
+
+// Shows texts, and colours with the name the colour table gives them.
+class Printer {
+ public:
+  explicit Printer(bool raw) : raw_(raw) {
+    const StringArray& names = *mapcfg::sCfgGetColorNamesPtr();
+    const std::vector<uint32_t>& colors = *mapcfg::sCfgGetColorsPtr();
+    for (size_t i = 0; i < names.size() && i < colors.size(); ++i) color_names_.emplace(colors[i], names[i]);
+  }
+  std::string Text(const String& bytes) const { return ToDisplay(bytes, raw_); }
+  std::string Quoted(const String& bytes) const { return "\"" + Text(bytes) + "\""; }
+  std::string Color(uint32_t rgb) const {
+    char hex[16];
+    std::snprintf(hex, sizeof hex, "0x%06X", rgb);
+    const auto name = color_names_.find(rgb);
+    return name == color_names_.end() ? hex : std::string(hex) + " (" + Text(name->second) + ")";
+  }
+  // "name=value ..." of a record's fields.
+  std::string Fields(const FieldTexts& fields) const {
+    std::string line;
+    for (const FieldText& f : fields) {
+      line += (line.empty() ? "" : " ") + f.name + "=";
+      if (f.kind == FieldText::kText) {
+        line += Quoted(f.value);
+      } else if (f.kind == FieldText::kHex) {
+        line += Color(static_cast<uint32_t>(std::stoul(f.value, nullptr, 16)));
+      } else {
+        line += f.value;
+      }
+    }
+    return line;
+  }
+
+ private:
+  bool raw_;
+  std::multimap<uint32_t, String> color_names_;
+};
+
+void Heading(const char* table, const char* what, size_t count) {
+  std::printf("[%s] %s: %zu\n", table, what, count);
+}
+
+template <class Rec>
+void Catalogue(const Printer& p, const char* table, const char* what, const StringArray& codes,
+               const mapcfg::RecordArray<Rec>& records) {
+  Heading(table, what, codes.size());
+  for (size_t i = 0; i < codes.size() && i < records.size(); ++i)
+    std::printf("  %s: %s\n", p.Text(codes[i]).c_str(), p.Fields(mapcfg::sDescribe(*records[i])).c_str());
+}
+
+void Pairs(const Printer& p, const char* table, const char* what, const StringArray& names, const StringArray& values) {
+  Heading(table, what, names.size());
+  for (size_t i = 0; i < names.size(); ++i)
+    std::printf("  %s = %s\n", p.Text(names[i]).c_str(), i < values.size() ? p.Quoted(values[i]).c_str() : "");
+}
+
+struct Table {
+  const char* name;
+  std::function<void(const Printer&)> print;
+};
+
+const std::vector<Table>& Tables() {
+  using namespace mapcfg;
+  static const std::vector<Table> tables = {
+      {"sysparam",
+       [](const Printer& p) {
+         Heading("sysparam", "system parameters", 1);
+         std::printf("  %s\n", p.Fields(sDescribe(*sCfgGetSysCfgParamPtr())).c_str());
+       }},
+      {"libs", [](const Printer& p) { Pairs(p, "libs", "extension libraries", *sCfgGetLibNamesPtr(), *sCfgGetLibDllsPtr()); }},
+      {"menus", [](const Printer& p) { Pairs(p, "menus", "menu tools", *sCfgGetMenuNamesPtr(), *sCfgGetMenuFunsPtr()); }},
+      {"status",
+       [](const Printer& p) {
+         Catalogue(p, "status", "well-status codes", *sCfgGetStatusCodesPtr(), *sCfgGetStatusPropsPtr());
+       }},
+      {"interpret",
+       [](const Printer& p) {
+         Catalogue(p, "interpret", "interpretation codes", *sCfgGetInterpretCodesPtr(), *sCfgGetInterpretPropsPtr());
+       }},
+      {"lith",
+       [](const Printer& p) { Catalogue(p, "lith", "lithology codes", *sCfgGetLithCodesPtr(), *sCfgGetLithPropsPtr()); }},
+      {"colors",
+       [](const Printer& p) {
+         const StringArray& names = *sCfgGetColorNamesPtr();
+         const std::vector<uint32_t>& colors = *sCfgGetColorsPtr();
+         Heading("colors", "colours", names.size());
+         for (size_t i = 0; i < names.size() && i < colors.size(); ++i) {
+           char hex[16];
+           std::snprintf(hex, sizeof hex, "0x%06X", colors[i]);
+           std::printf("  %s = %s\n", p.Text(names[i]).c_str(), hex);
+         }
+       }},
+      {"prevcolors",
+       [](const Printer& p) {
+         Heading("prevcolors", "preset colours", 16);
+         for (int i = 0; i < 16; ++i) std::printf("  %d = %s\n", i, p.Color(sCfgGetPrevColorPtr()[i]).c_str());
+       }},
+      {"yqxs", [](const Printer& p) { Pairs(p, "yqxs", "oil-gas show symbols", *sCfgGetYQXSNamesPtr(), *sCfgGetYQXSPictsPtr()); }},
+      {"hyw", [](const Printer& p) { Pairs(p, "hyw", "containing-material symbols", *sCfgGetHYWNamesPtr(), *sCfgGetHYWPictsPtr()); }},
+      {"yxqz", [](const Printer& p) { Pairs(p, "yxqz", "lithology-prefix symbols", *sCfgGetYXQZNamesPtr(), *sCfgGetYXQZPictsPtr()); }},
+      {"gzfh", [](const Printer& p) { Pairs(p, "gzfh", "structure symbols", *sCfgGetGZFHNamesPtr(), *sCfgGetGZFHPictsPtr()); }},
+      {"textfmts",
+       [](const Printer& p) {
+         Catalogue(p, "textfmts", "text formats", *sCfgGetTextFmtNamesPtr(), *sCfgGetTextFmtsPtr());
+       }},
+      {"datasrcs", [](const Printer& p) { Pairs(p, "datasrcs", "data sources", *sCfgGetDataSrcNamesPtr(), *sCfgGetDataSrcValsPtr()); }},
+      {"labelcrvs",
+       [](const Printer& p) { Pairs(p, "labelcrvs", "label curves", *sCfgGetLabelCrvCodesPtr(), *sCfgGetLabelCrvValsPtr()); }},
+      {"isoprops",
+       [](const Printer& p) {
+         Pairs(p, "isoprops", "contour parameters", *sCfgGetIsoPropCodesPtr(), *sCfgGetIsoPropValsPtr());
+       }},
+  };
+  return tables;
+}
+
+void ReadEveryTable(mapcfg::CCfgScript& script) {
+  using namespace mapcfg;
+  for (auto read : {sCfgReadSysCfgParam, sCfgReadLibDlls, sCfgReadMenuFuns, sCfgReadStatusProps, sCfgReadInterpretProps,
+                    sCfgReadLithProps, sCfgReadColors, sCfgReadPrevColor, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
+                    sCfgReadGZFHs, sCfgReadTextFmts, sCfgReadDataSrcs, sCfgReadLabelCrvs, sCfgIsoLineProp})
+    read(script);
+}
+
+// The language whose block names the script uses more: the block names of
+// the readers (configuration strings) are counted in both.
+char GuessLanguage(const mapcfg::CCfgScript& script) {
+  int found[2] = {0, 0};
+  for (int index = 0; index < mapcfg::kCfgStrCount; ++index)
+    for (char lang : {0, 1}) {
+      const String name = mapcfg::sGetCfgStr(lang, index);
+      if (!name.empty() && script.GetKeyCnt(name.c_str()) >= 0) ++found[static_cast<int>(lang)];
+    }
+  return found[1] > found[0] ? 1 : 0;
+}
+
+}  // namespace
+
+int RunShow(const Call& call) {
+  const bool raw = call.Has("--raw");
+  const bool from_archive = call.Has("--archive");
+  if (from_archive != call.operands.empty())
+    return UsageError(from_archive ? "give scripts or --archive, not both" : "missing FILE... or --archive FILE");
+  if (call.Has("--version") && !from_archive) return UsageError("--version goes with --archive");
+  char lang = -1;
+  if (call.Has("--lang")) {
+    const std::string& l = call.Value("--lang");
+    if (l != "en" && l != "zh") return UsageError("--lang takes en or zh, not '" + NameToDisplay(l) + "'");
+    lang = l == "zh" ? 1 : 0;
+  }
+  const Table* only = nullptr;
+  if (call.Has("--table")) {
+    for (const Table& t : Tables())
+      if (Folded(call.Value("--table")) == t.name) only = &t;
+    if (!only) {
+      std::string names;
+      for (const Table& t : Tables()) names += std::string(names.empty() ? "" : ", ") + t.name;
+      return UsageError("no table '" + NameToDisplay(call.Value("--table")) + "' (tables: " + names + ")");
+    }
+  }
+
+  const char saved_lang = *mapcfg::sGetCfgLang();
+  int status = 0;
+  if (from_archive) {
+    uint32_t version = 0xFFFFFFFFu;
+    if (call.Has("--version")) {
+      char* end = nullptr;
+      const std::string& v = call.Value("--version");
+      version = static_cast<uint32_t>(std::strtoul(v.c_str(), &end, 0));
+      if (v.empty() || *end) return UsageError("--version takes a number (0x hexadecimal or decimal), not '" + NameToDisplay(v) + "'");
+    }
+    const std::string& file = call.Value("--archive");
+    const std::string why = WhyUnreadable(mapcfg::sToNativePath(file));
+    if (!why.empty()) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + why);
+    mapcfg::CFFArchive archive;
+    if (!archive.FromFile(file)) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + archive.GetLastError());
+    if (lang >= 0) *mapcfg::sGetCfgLang() = lang;
+    const String error = mapcfg::sCfgReadMain(archive, version);
+    if (!error.empty()) status = Fail(1, NameToDisplay(file) + ": the store stops early: " + ToDisplay(error, raw));
+  } else {
+    mapcfg::CCfgScript script;
+    Guard guard;
+    for (size_t i = 0; i < call.operands.size(); ++i) {
+      ScriptInput input;
+      std::string why;
+      const std::string& file = call.operands[i];
+      if (!input.Open(file, &why)) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + why);
+      try {
+        script.Open(input.path().c_str(), i > 0 ? 1 : 0, &guard);
+      } catch (const ReadStopped& e) {
+        return Fail(1, NameToDisplay(input.Shown(e.included)) + " is " + e.what() + ": reading stopped there");
+      }
+    }
+    *mapcfg::sGetCfgLang() = lang >= 0 ? lang : GuessLanguage(script);
+    ReadEveryTable(script);
+  }
+
+  const Printer printer(raw);
+  for (const Table& t : Tables())
+    if (!only || only == &t) t.print(printer);
+  *mapcfg::sGetCfgLang() = saved_lang;
+  return status;
+}
+
+}  // namespace mapcfg_tool
