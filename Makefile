@@ -17,11 +17,15 @@ $(BUILD)/build.ninja:
 build: $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)
 
-# Builds the tool and shows what it reads from the bundled example.
+# Builds the tool and shows what it reads from the bundled examples: a
+# script, then the tables of the example oil field in English and Chinese.
 demo: build
 	$(BUILD)/tools/mapcfg script examples/wells.cfg
 	$(BUILD)/tools/mapcfg check examples/wells.cfg && echo "check: examples/wells.cfg is clean"
 	$(BUILD)/examples/read_wells examples/wells.cfg
+	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table lith
+	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table status
+	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table textfmts
 
 # Builds and runs every test.
 test: build

@@ -132,6 +132,22 @@ TEST(StoreStream, SeededStoresReadBackFieldByField) {
   }
 }
 
+// The example configuration's store, byte for byte as it was first written:
+// tests/data/archive/field_en.arc (which `mapcfg show --archive` reads in
+// the tool's tests).
+TEST(StoreStream, ExampleStoreIsTheGoldenFile) {
+  mapcfg_test::StoreGuard guard;
+  ClearStore();
+  *sGetCfgLang() = 0;
+  CCfgScript script;
+  script.Open(MAPCFG_EXAMPLES "/en/field.cfg", 0);
+  for (auto read : {sCfgReadSysCfgParam, sCfgReadLibDlls, sCfgReadMenuFuns, sCfgReadStatusProps,
+                    sCfgReadInterpretProps, sCfgReadLithProps, sCfgReadColors, sCfgReadPrevColor, sCfgReadYQXSs,
+                    sCfgReadHYWs, sCfgReadYXQZs, sCfgReadGZFHs, sCfgReadTextFmts, sCfgReadDataSrcs, sCfgReadLabelCrvs})
+    read(script);
+  EXPECT_EQ(Written(), mapcfg_test::ReadAll(MAPCFG_TEST_DATA "/archive/field_en.arc"));
+}
+
 TEST(StoreStream, ReadingStopsAtTheFirstFailureAndKeepsWhatWasRead) {
   mapcfg_test::StoreGuard guard;
   Random r(7);

@@ -1,0 +1,94 @@
+// Every catalogue and system-parameter reader on any script, in either
+// language, then the lithology decomposer on what was read and on pieces of
+// the input. The tables then go through the whole-store stream: written,
+// cleared, read back and written again, the two streams must be the same
+// bytes. The first byte of the input chooses the language (odd: Chinese).
+#include <mapcfg/mapcfg.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+namespace {
+
+const std::string& ScriptPath() {
+  static const std::string path = [] {
+    char tmpl[] = "/tmp/mapcfg-fuzz-catalogs-XXXXXX";
+    if (!mkdtemp(tmpl)) std::abort();
+    return std::string(tmpl) + "/main.cfg";
+  }();
+  return path;
+}
+
+std::string Stream() {
+  mapcfg::CFFArchive a;
+  if (!mapcfg::sCfgWriteMain(a).empty()) std::abort();
+  uint32_t n = 0;
+  std::unique_ptr<uint8_t[]> bytes = a.ToData(n);
+  return std::string(reinterpret_cast<const char*>(bytes.get()), n);
+}
+
+void Decompose(std::string description) {
+  using namespace mapcfg;
+  String oil = "?", colour = "?", lith, parts[4], symbols[4], pattern, oil_symbol;
+  double ratio = 0;
+  uint32_t rgb = 0;
+  if (sCfgGetLithPropByCode(description, oil, colour, lith, ratio, parts, symbols, pattern, oil_symbol, rgb) != 4)
+    std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  using namespace mapcfg;
+  if (size == 0) return 0;
+  const char saved_lang = *sGetCfgLang();
+  *sGetCfgLang() = static_cast<char>(data[0] & 1);
+  std::FILE* f = std::fopen(ScriptPath().c_str(), "wb");
+  if (!f) std::abort();
+  std::fwrite(data + 1, 1, size - 1, f);
+  std::fclose(f);
+
+  CCfgScript script;
+  script.Open(ScriptPath().c_str(), 0);
+  for (auto read : {sCfgReadSysCfgParam, sCfgReadLibDlls, sCfgReadMenuFuns, sCfgReadStatusProps,
+                    sCfgReadInterpretProps, sCfgReadLithProps, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
+                    sCfgReadGZFHs, sCfgReadColors, sCfgReadPrevColor, sCfgReadTextFmts, sCfgReadDataSrcs,
+                    sCfgReadLabelCrvs, sCfgIsoLineProp})
+    read(script);
+
+  for (const String& code : *sCfgGetLithCodesPtr()) Decompose(code);
+  const std::string text(reinterpret_cast<const char*>(data + 1), size - 1);
+  for (size_t at = 0; at < text.size() && at < 64; at += 7) Decompose(text.substr(at, 24));
+  for (const String& code : *sCfgGetInterpretCodesPtr()) {
+    String type, symbol, pattern;
+    char density = 0;
+    uint32_t bg = 0, colour = 0;
+    sCfgGetResultPropByCode(code, type, density, symbol, bg, pattern, colour);
+  }
+  (void)sCfgFindStatusProp(text.substr(0, 8), 0);
+  (void)cfgDepthOrg2DispSystem(static_cast<char>(size), nullptr, nullptr);
+
+  // The store through its stream and back, byte for byte.
+  const std::string first = Stream();
+  sCfgClearPlate();
+  sCfgGetLibNamesPtr()->clear();
+  sCfgGetLibDllsPtr()->clear();
+  sCfgGetMenuNamesPtr()->clear();
+  sCfgGetMenuFunsPtr()->clear();
+  CFFArchive in;
+  in.FromData(first.data(), static_cast<uint32_t>(first.size()));
+  if (!sCfgReadMain(in, 0xFFFFFFFFu).empty()) std::abort();
+  if (Stream() != first) std::abort();
+
+  sCfgClearPlate();
+  sCfgGetLibNamesPtr()->clear();
+  sCfgGetLibDllsPtr()->clear();
+  sCfgGetMenuNamesPtr()->clear();
+  sCfgGetMenuFunsPtr()->clear();
+  *sGetCfgLang() = saved_lang;
+  return 0;
+}
