@@ -44,6 +44,11 @@ struct _StatusProp;
 struct _IntepretProp;
 struct _LithProp;
 struct _SysCfgParam;
+// Section map records (mapcfg/maps.h).
+struct _PMTAutoParm;
+struct _PMTMapProp;
+struct _PMTBodyProp;
+struct _PMTLableProp;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -228,6 +233,17 @@ class MAPCFG_EXPORT CFFArchive {
   int GetLithProp(_LithProp* prop);
   int PutSysCfgParam(const _SysCfgParam* param);
   int GetSysCfgParam(_SysCfgParam* param, uint32_t version);
+  // Section map records (mapcfg/maps.h). The versioned readers hand the
+  // version to every embedded line and fill.
+  int PutPMTAutoParm(const _PMTAutoParm* parm);
+  int GetPMTAutoParm(_PMTAutoParm* parm);
+  int PutPMTMapProp(const _PMTMapProp* prop);
+  int GetPMTMapProp(_PMTMapProp* prop, uint32_t version);
+  int PutPMTBodyProp(const _PMTBodyProp* prop);
+  int GetPMTBodyProp(_PMTBodyProp* prop, uint32_t version);
+  int PutPMTLabelProp(const _PMTLableProp* prop);
+  int GetPMTLabelProp(_PMTLableProp* prop, uint32_t version);
+  // End of the section map records.
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

@@ -14,6 +14,7 @@
 
 #include "mapcfg/catalogs.h"
 #include "mapcfg/export.h"
+#include "mapcfg/maps.h"
 #include "mapcfg/store.h"
 #include "mapcfg/types.h"
 
@@ -28,6 +29,11 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _IntepretProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _LithProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _TextFmt& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _SysCfgParam& record);
+// Section map records.
+MAPCFG_EXPORT FieldTexts sDescribe(const _PMTAutoParm& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _PMTMapProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _PMTBodyProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _PMTLableProp& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();

@@ -2,9 +2,130 @@
 #ifndef MAPCFG_MAPS_H_
 #define MAPCFG_MAPS_H_
 
+#include <cstdint>
+
+#include "mapcfg/catalogs.h"
 #include "mapcfg/export.h"
+#include "mapcfg/values.h"
 #include "mapcfg/types.h"
 
-namespace mapcfg {}  // namespace mapcfg
+namespace mapcfg {
+
+class CCfgScript;
+
+// --- Section maps: reservoir profile, fence and multi-well correlation ---------
+// Each of the three kinds keeps its own set of the records below; none is
+// shared. The getters take the kind's display name in the current language
+// ("Reservoir Profile Map", "Fence Map", "Multi-well Correlation Map" or their
+// Chinese names), compared exactly, and return null for any other name; the
+// fence map has no depth ruler and no model-line flags. Readers fill a record
+// from the keys of a script block (in the current language); a missing key
+// keeps the default of its reader. The archive layouts are in doc/records.md.
+
+// Automatic creation. Archive: Byte flag0, Byte FlattenByElev, Point1 and
+// Point2 as PutDblPoint, Byte CreateByHoleSection, Float TopVD, Float
+// BottomVD, Short AutoCreateFlags, Byte FixedSpaceNegative, Float FixedSpace,
+// String Text.
+struct _PMTAutoParm {
+  uint8_t flag0;
+  uint8_t FlattenByElev;
+  CDblPoint Point1;
+  CDblPoint Point2;
+  uint8_t CreateByHoleSection;
+  float TopVD;
+  float BottomVD;
+  uint16_t AutoCreateFlags;
+  uint8_t FixedSpaceNegative;  // FixedSpace was negative in the script
+  float FixedSpace;            // always the magnitude
+  String Text;
+};
+
+// Map properties. Archive: Byte HoleAxialLine, Short LayerDispFlags, Short
+// PlaneDispFlags, Float FaultDisplacement, Double Rlev, EffectiveVal1,
+// EffectiveVal2, String PerforationSymbol, Double LeastInterlayer, the two
+// fills, the six lines, Byte SublayerFillLith. PerforationPlug and
+// PerforationUnplug are not archived.
+struct _PMTMapProp {
+  uint8_t HoleAxialLine;
+  uint16_t LayerDispFlags;
+  uint16_t PlaneDispFlags;
+  float FaultDisplacement;
+  double Rlev;
+  double EffectiveVal1;
+  double EffectiveVal2;
+  String PerforationSymbol;
+  String PerforationPlug;
+  String PerforationUnplug;
+  double LeastInterlayer;
+  PATT_PROP FmtGroundPatt;
+  PATT_PROP SublayerPatt;
+  LINE_PROP FmtTLine, FmtBLine, SublTLine, SublBLine, InteTLine, InteBLine;
+  uint8_t SublayerFillLith;
+};
+
+// Well body. Archive: the fields in order; the bytes as Byte, the line and
+// the font as PutLineProp and PutFontProp.
+struct _PMTBodyProp {
+  uint8_t WHeadDispFlags;
+  float WNameUOffset, WSymbolUOffset, WSymbolRadius;
+  double HoleWidth, WellLftLinePosition, WellRgtLinePosition;
+  float HoleUSpace, HoleDSpace, CHeadNameFontHeight, CHeadScaleFontHeight;
+  double LayerLeftPos, LayerRightPos, InteSymbolLPos, InteSymbolRPos;
+  uint8_t BeforeGridNumber, AfterGridNumber;
+  LINE_PROP HoleBorder;
+  FONT_PROP WNameFont;
+  float Reserved;
+};
+
+// Depth ruler. Archive: the fields in order, RulerScaleSpace as Long.
+struct _PMTLableProp {
+  float RulerHOffset, RulerLineOffset, RulerTickLength;
+  int32_t RulerScaleSpace;
+  LINE_PROP RulerLine;
+  float RulerMarkWidth;
+  FONT_PROP RulerFmtFont;
+  float RulerScaleFontHeight;
+};
+
+MAPCFG_EXPORT _PMTAutoParm* sCfgGetPMTAutoParmPtr(const String& name);
+MAPCFG_EXPORT _PMTMapProp* sCfgGetPMTMapPropPtr(const String& name);
+MAPCFG_EXPORT _PMTBodyProp* sCfgGetPMTBodyPropPtr(const String& name);
+MAPCFG_EXPORT _PMTLableProp* sCfgGetPMTLabelPropPtr(const String& name);
+// The model-line flag byte (bit 0: the model lines are smoothed).
+MAPCFG_EXPORT char* sCfgGetPMTModelPropPtr(const String& name);
+MAPCFG_EXPORT LINE_PROP* sCfgGetPMTFaultPropPtr(const String& name);
+MAPCFG_EXPORT LINE_PROP* sCfgGetPMTDiviPropPtr(const String& name);
+
+// flag0 0, Text empty, the points left as they are; a negative FixedSpace is
+// stored as its magnitude with FixedSpaceNegative 1.
+MAPCFG_EXPORT void sCfgReadPMTAutoParm(CCfgScript& script, const String& block, _PMTAutoParm* parm);
+// Rlev 0.125 and the effective values -999.25 when empty; LeastInterlayer 0.1
+// when not above 0; both fills white with ratio `ratio`, FmtGroungClr the
+// colour of the first; the six lines reset, widths from their keys (a
+// negative width is 0).
+MAPCFG_EXPORT void sCfgReadPMTMapProp(CCfgScript& script, const String& block, _PMTMapProp* prop, float ratio);
+// The border line with colour 0 and no style; the name font from
+// sInitFontProp, its height 16 when not above 0; Reserved 0.
+MAPCFG_EXPORT void sCfgReadPMTBodyProp(CCfgScript& script, const String& block, _PMTBodyProp* prop);
+// RulerLineOffset 10, line width 1 and RulerMarkWidth 0.25 when empty;
+// RulerScaleSpace 10 when 0; the formation font from sInitFontProp.
+MAPCFG_EXPORT void sCfgReadPMTLabelProp(CCfgScript& script, const String& block, _PMTLableProp* prop);
+// "SmoothModelLine" in hexadecimal, "0x" put before a value without it.
+MAPCFG_EXPORT void sCfgReadPMTModelProp(CCfgScript& script, const String& block, char* flags);
+// Colour 0, no style, width from "FaultLineWidth" or "BoundaryLineWidth".
+MAPCFG_EXPORT void sCfgReadPMTFaultProp(CCfgScript& script, const String& block, LINE_PROP* line);
+MAPCFG_EXPORT void sCfgReadPMTDiviProp(CCfgScript& script, const String& block, LINE_PROP* line);
+
+MAPCFG_EXPORT void sCfgCopyPMTAutoParm(_PMTAutoParm* dst, const _PMTAutoParm* src);
+MAPCFG_EXPORT void sCfgCopyPMTMapProp(_PMTMapProp* dst, const _PMTMapProp* src);
+MAPCFG_EXPORT void sCfgCopyPMTBodyProp(_PMTBodyProp* dst, const _PMTBodyProp* src);
+MAPCFG_EXPORT void sCfgCopyPMTLabelProp(_PMTLableProp* dst, const _PMTLableProp* src);
+MAPCFG_EXPORT void sCfgCopyPMTModelProp(char* dst, const char* src);
+MAPCFG_EXPORT void sCfgCopyPMTFaultProp(LINE_PROP* dst, const LINE_PROP* src);
+MAPCFG_EXPORT void sCfgCopyPMTDiviProp(LINE_PROP* dst, const LINE_PROP* src);
+
+// --- End of the section maps ----------------------------------------------------
+
+}  // namespace mapcfg
 
 #endif  // MAPCFG_MAPS_H_
