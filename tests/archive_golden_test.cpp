@@ -169,6 +169,19 @@ Form SysParam(uint32_t version) {
   return Rec(kSysStart, [=](CFFArchive& a, _SysCfgParam& v) { return a.GetSysCfgParam(&v, version); },
              [](CFFArchive& a, const _SysCfgParam& v) { a.PutSysCfgParam(&v); });
 }
+const _PMTAutoParm kPMTAutoStart{7, 7, {-7, -7}, {-7, -7}, 7, -7, -7, 7, 7, -7, "start"};
+const _PMTMapProp kPMTMapStart{7,          7,          7,          -7,         -7,         -7,         -7,
+                               "start",    "start",    "start",    -7,         kPattStart, kPattStart, kLineStart,
+                               kLineStart, kLineStart, kLineStart, kLineStart, kLineStart, 7};
+const _PMTBodyProp kPMTBodyStart{7,  -7, -7, -7, -7, -7, -7, -7, -7, -7,         -7,        -7,
+                                 -7, -7, -7, 7,  7,  kLineStart, kFontStart, -7};
+const _PMTLableProp kPMTLabelStart{-7, -7, -7, -7, kLineStart, -7, kFontStart, -7};
+// A section map record by pointer, read with `version`.
+template <class T>
+Form Section(T start, int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*put)(const T*), uint32_t version) {
+  return Rec(start, [=](CFFArchive& a, T& v) { return (a.*get)(&v, version); },
+             [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
+}
 const _StatusProp kStatusStart{"start", 7, -7, 7};
 const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
 const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
@@ -223,6 +236,12 @@ const std::map<std::string, Form> kForms = {
     {"interpret", Catalog(kInterpretStart, &CFFArchive::GetInterpretProp, &CFFArchive::PutInterpretProp)},
     {"lith", Catalog(kLithStart, &CFFArchive::GetLithProp, &CFFArchive::PutLithProp)},
     {"liths", CatalogRows(&CFFArchive::GetLithPropArray, &CFFArchive::PutLithPropArray)},
+    {"pmtauto", Catalog(kPMTAutoStart, &CFFArchive::GetPMTAutoParm, &CFFArchive::PutPMTAutoParm)},
+    {"pmtmap", Section(kPMTMapStart, &CFFArchive::GetPMTMapProp, &CFFArchive::PutPMTMapProp, 0x02017519)},
+    {"pmtmap_old", Section(kPMTMapStart, &CFFArchive::GetPMTMapProp, &CFFArchive::PutPMTMapProp, 0x02007343)},
+    {"pmtbody", Section(kPMTBodyStart, &CFFArchive::GetPMTBodyProp, &CFFArchive::PutPMTBodyProp, 0x02017519)},
+    {"pmtbody_old", Section(kPMTBodyStart, &CFFArchive::GetPMTBodyProp, &CFFArchive::PutPMTBodyProp, 0x02017518)},
+    {"pmtlabel", Section(kPMTLabelStart, &CFFArchive::GetPMTLabelProp, &CFFArchive::PutPMTLabelProp, 0x02017519)},
 };
 
 // True when exactly `n` bytes of the stream have been read.
