@@ -182,6 +182,23 @@ Form Section(T start, int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*pu
   return Rec(start, [=](CFFArchive& a, T& v) { return (a.*get)(&v, version); },
              [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
 }
+// A map record read with `version` into a zeroed target.
+template <class T>
+Form MapRecord(int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*put)(const T*), uint32_t version) {
+  return Rec(T{}, [=](CFFArchive& a, T& v) { return (a.*get)(&v, version); },
+             [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
+}
+// Curve parameters appended to an empty array, each record in brackets.
+Form CurveParms(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<_CurveParm> parms;
+    const int ok = in.GetCurveParmArray(parms, version);
+    if (out) out->PutCurveParmArray(parms);
+    std::string s = Text(ok);
+    for (const std::unique_ptr<_CurveParm>& r : parms) s += "[" + Fields(*r).substr(1) + "]";
+    return s;
+  };
+}
 const _StatusProp kStatusStart{"start", 7, -7, 7};
 const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
 const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
@@ -242,6 +259,12 @@ const std::map<std::string, Form> kForms = {
     {"pmtbody", Section(kPMTBodyStart, &CFFArchive::GetPMTBodyProp, &CFFArchive::PutPMTBodyProp, 0x02017519)},
     {"pmtbody_old", Section(kPMTBodyStart, &CFFArchive::GetPMTBodyProp, &CFFArchive::PutPMTBodyProp, 0x02017518)},
     {"pmtlabel", Section(kPMTLabelStart, &CFFArchive::GetPMTLabelProp, &CFFArchive::PutPMTLabelProp, 0x02017519)},
+    {"layers", MapRecord(&CFFArchive::GetLayersProp, &CFFArchive::PutLayersProp, kMapRecordsVersion1)},
+    {"frame", MapRecord(&CFFArchive::GetMapFrameProp, &CFFArchive::PutMapFrameProp, kMapRecordsVersion1)},
+    {"legend", MapRecord(&CFFArchive::GetLegendProp, &CFFArchive::PutLegendProp, kMapRecordsVersion1)},
+    {"scale", MapRecord(&CFFArchive::GetScaleProp, &CFFArchive::PutScaleProp, kMapRecordsVersion1)},
+    {"curves", CurveParms(kMapRecordsVersion1)},
+    {"curves_old", CurveParms(0x02007343)},
 };
 
 // True when exactly `n` bytes of the stream have been read.

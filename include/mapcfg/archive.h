@@ -49,6 +49,13 @@ struct _PMTAutoParm;
 struct _PMTMapProp;
 struct _PMTBodyProp;
 struct _PMTLableProp;
+// Map records (mapcfg/catalogs.h).
+struct _LayersProp;
+struct _MapFrameProp;
+struct _LegendProp;
+struct _LegendMetaProp;
+struct _ScaleProp;
+struct _CurveParm;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -244,6 +251,23 @@ class MAPCFG_EXPORT CFFArchive {
   int PutPMTLabelProp(const _PMTLableProp* prop);
   int GetPMTLabelProp(_PMTLableProp* prop, uint32_t version);
   // End of the section map records.
+  // Map records. Get... takes the version for the line and pattern
+  // records inside and for layouts after kMapRecordsVersion1.
+  int PutLayersProp(const _LayersProp* prop);
+  int GetLayersProp(_LayersProp* prop, uint32_t version);
+  int PutMapFrameProp(const _MapFrameProp* prop);
+  int GetMapFrameProp(_MapFrameProp* prop, uint32_t version);
+  int PutLegendProp(const _LegendProp* prop);
+  int GetLegendProp(_LegendProp* prop, uint32_t version);
+  int PutLegendMetaProp(const _LegendMetaProp* prop);
+  int GetLegendMetaProp(_LegendMetaProp* prop, uint32_t version);
+  int PutScaleProp(const _ScaleProp* prop);
+  int GetScaleProp(_ScaleProp* prop, uint32_t version);
+  int PutCurveParm(const _CurveParm* parm);
+  int GetCurveParm(_CurveParm* parm, uint32_t version);
+  // PutLong(count), then each record; the reader appends.
+  int PutCurveParmArray(const RecordArray<_CurveParm>& parms);
+  int GetCurveParmArray(RecordArray<_CurveParm>& parms, uint32_t version);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

@@ -247,6 +247,143 @@ MAPCFG_EXPORT StringArray* sCfgGetIsoPropCodesPtr();
 MAPCFG_EXPORT StringArray* sCfgGetIsoPropValsPtr();
 MAPCFG_EXPORT void sCfgIsoLineProp(CCfgScript& script);
 
+
+// --- Map records: layers, frame, legend, scale, curve parameters ---------------
+// The parts of a map's parameter set that every map kind shares, read from
+// the map kind's block (its display name in the current language). Each
+// reader sets every field: a key that is missing or empty takes the default
+// below, any other value its scan ("%d", "%x", "%f", "%lf"; an unreadable
+// value scans as 0) and then the clamps. Attribute records start from
+// sInitLineProp, sInitPattProp(p, ratio) and sInitFontProp; a reader fills
+// only the fields its keys name. Layouts are those of doc/records.md; the
+// first of them is archive layout kMapRecordsVersion1 and any later change
+// is guarded by the archive version.
+
+// General map keys. Archive: Float PatternRatio, Byte VertWellMode, Float
+// MapHVRatio, Float MapHorzExpand, Float MajorHigh, Float
+// MapVertMajorIncrement.
+struct _LayersProp {
+  float PatternRatio = 0.0f;           // "PatternRatio": scale of every fill pattern; default 1, > 0
+  uint8_t VertWellMode = 0;            // "VertWellMode": 1 wells drawn vertical, 0 deviated
+  float MapHVRatio = 0.0f;             // "MapHVRatio": vertical to horizontal scale; default 1, > 0
+  float MapHorzExpand = 0.0f;          // "MapHorzExpand": extra width on each side
+  float MajorHigh = 0.0f;              // "MajorHigh": length of a major tick
+  float MapVertMajorIncrement = 0.0f;  // "MapVertMajorIncrement": depth step of major ticks
+};
+
+// The map frame. Archive: the fields in order (Strings, Byte DrawMapInfo,
+// Long FrameFlags, Floats, FONT_PROPs, Floats, LINE_PROP).
+struct _MapFrameProp {
+  String MapName;                 // "MapName"
+  String MapMarkLabel;            // "MapMarkLabel": sheet mark
+  uint8_t DrawMapInfo = 0;        // "DrawMapInfo": 1 draws the map information
+  uint32_t FrameFlags = 0;        // "FrameFlags" (hex): help row 31; default 0x01
+  float MapTickLength = 0.0f;     // "MapTickLength"
+  float VScaleSpace = 0.0f;       // "VScaleSpace"
+  float HScaleSpace = 0.0f;       // "HScaleSpace"
+  float VGridLineSpace = 0.0f;    // "VGridLineSpace"
+  float HGridLineSpace = 0.0f;    // "HGridLineSpace"
+  float BoundOutExt = 0.0f;       // "BoundOutExt": margin outside the map's bounds
+  FONT_PROP MapNameFont{};        // "MapNameFontHeight", "MapNameFontName", "MapNameFontClr" (hex)
+  FONT_PROP MapLabelFont{};       // "MapLabelFontHeight"
+  FONT_PROP MapInfoFont{};        // "MapInfoFontHeight", "MapInfoFontName", "MapInfoFontClr" (hex)
+  float MajorScaleFontHeight = 0.0f;  // "MajorScaleFontHeight"
+  float MinorScaleFontHeight = 0.0f;  // "MinorScaleFontHeight"
+  LINE_PROP FrameBorder{};        // "FrameBorderWidth"
+};
+
+// One legend entry's drawing. Archive: Float SymbolRadius, LINE_PROP Line,
+// FONT_PROP Font.
+struct _LegendMetaProp {
+  float SymbolRadius = 0.0f;  // "SymbolRadius"; default 2
+  LINE_PROP Line{};           // "LineWidth"
+  FONT_PROP Font{};           // "FontHeight"
+};
+
+// The legend. Archive: Byte Legend, LINE_PROP Border, PATT_PROP Ground, Float
+// x3, Long BaseCharNumber, Float CharHeightRatio, Long LegendMetaCols, then
+// the _LegendMetaProp.
+struct _LegendProp {
+  uint8_t Legend = 0;              // "Legend": 1 draws the legend; default 1
+  LINE_PROP Border{};              // "LegendBorderWidth"
+  PATT_PROP Ground{};              // "LegendGroundClr" (hex) into backColor
+  float LineSpaceRatio = 0.0f;     // "LineSpaceRatio"; default 0.5
+  float SegmentSpaceRatio = 0.0f;  // "SegmentSpaceRatio"; default 1
+  float SymbolSpaceRatio = 0.0f;   // "SymbolSpaceRatio"; default 0.5
+  int32_t BaseCharNumber = 0;      // "BaseCharNumber"; default 8, at least 1
+  float CharHeightRatio = 0.0f;    // "CharHeightRatio"; default 1
+  int32_t LegendMetaCols = 0;      // "LegendMetaCols"; default 1, at least 1
+  _LegendMetaProp Meta;
+};
+
+// The scale bar. Archive: Float ScaleHeight, Long x2, Float x3, String x2,
+// LINE_PROP Line.
+struct _ScaleProp {
+  float ScaleHeight = 0.0f;       // "ScaleHeight"; default 2
+  int32_t ScaleMinorNumber = 0;   // "ScaleMinorNumber"; default 5
+  int32_t ScaleMajorNumber = 0;   // "ScaleMajorNumber"; default 2
+  float ScaleMajorSpace = 0.0f;   // "ScaleMajorSpace"; default 10
+  float ScaleMinorFactor = 0.0f;  // "ScaleMinorFactor"; default 1
+  float ScaleMajorFactor = 0.0f;  // "ScaleMajorFactor"; default 1
+  String ScaleMinorUnit;          // "ScaleMinorUnit"
+  String ScaleMajorUnit;          // "ScaleMajorUnit"
+  LINE_PROP Line{};               // "ScaleLineWidth"
+};
+
+// How one curve is drawn. Archive: Double x3, LINE_PROP Line.
+struct _CurveProp {
+  double LeftValue = -999.25;     // value at the left edge; -999.25 unknown
+  double RightValue = -999.25;    // value at the right edge; -999.25 unknown
+  double InvalidValue = -999.25;  // samples equal to it are not drawn
+  LINE_PROP Line{};
+};
+
+// A fill between a curve and another one ("" fills to the left edge).
+// Archive: String Curve, PATT_PROP Patt.
+struct _CrvFillItem {
+  String Curve;
+  PATT_PROP Patt{};
+};
+
+// A curve of a map kind. Keys of the block:
+//   Curve = code; name; left value; right value; LineStyle; LineWidth; LineColor
+//   FillingCurve = code; other curve's code; PatternName; PatternBGColor
+//   CrvInvalidValue = the invalid value of every curve of the block (-999.25)
+// A FillingCurve line adds a fill to the last curve read before it with that
+// code (without case); one with no such curve is ignored. Archive: String
+// Code, String Name, _CurveProp Prop, Long count + _CrvFillItem each.
+struct _CurveParm {
+  String Code;
+  String Name;
+  _CurveProp Prop;
+  RecordArray<_CrvFillItem> Fills;
+};
+
+// The version of the first layout of the records above.
+constexpr uint32_t kMapRecordsVersion1 = 0x03020001;
+
+// Reads the block's general keys into `prop`; returns its PatternRatio, the
+// ratio the block's pattern readers take.
+MAPCFG_EXPORT float sCfgReadLayersProp(CCfgScript& script, const String& block, _LayersProp* prop);
+// "HorzSpaceRatio" into hSpace, "VertSpaceRatio" into vSpace ("%lf"; 1 when
+// missing or empty).
+MAPCFG_EXPORT void sCfgReadHVSpaceProp(CCfgScript& script, const String& block, _HVSpaceProp* prop);
+MAPCFG_EXPORT void sCfgReadMapFrameProp(CCfgScript& script, const String& block, _MapFrameProp* prop);
+// The ground pattern takes `ratio`.
+MAPCFG_EXPORT void sCfgReadLegendProp(CCfgScript& script, const String& block, _LegendProp* prop, float ratio);
+MAPCFG_EXPORT void sCfgReadScaleProp(CCfgScript& script, const String& block, _ScaleProp* prop);
+// Appends a record per "Curve" key in key order; fill patterns take `ratio`.
+MAPCFG_EXPORT void sCfgReadCurveParms(CCfgScript& script, const String& block, RecordArray<_CurveParm>& parms,
+                                      float ratio);
+MAPCFG_EXPORT void sCfgClearCurveParms(RecordArray<_CurveParm>& parms);
+// Field-by-field copies (destination first).
+MAPCFG_EXPORT void sCfgCopyLayersProp(_LayersProp* dst, const _LayersProp* src);
+MAPCFG_EXPORT void sCfgCopyMapFrameProp(_MapFrameProp* dst, const _MapFrameProp* src);
+MAPCFG_EXPORT void sCfgCopyLegendProp(_LegendProp* dst, const _LegendProp* src);
+MAPCFG_EXPORT void sCfgCopyScaleProp(_ScaleProp* dst, const _ScaleProp* src);
+// Replaces `dst` with copies of the records of `src`.
+MAPCFG_EXPORT void sCfgCopyCurveParms(RecordArray<_CurveParm>& dst, const RecordArray<_CurveParm>& src);
+
 }  // namespace mapcfg
 
 #endif  // MAPCFG_CATALOGS_H_

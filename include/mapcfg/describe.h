@@ -34,6 +34,14 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _PMTAutoParm& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _PMTMapProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _PMTBodyProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _PMTLableProp& record);
+// Map records.
+MAPCFG_EXPORT FieldTexts sDescribe(const _LayersProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _HVSpaceProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _MapFrameProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _LegendProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _LegendMetaProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _ScaleProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _CurveParm& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();
