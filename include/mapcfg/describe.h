@@ -14,6 +14,7 @@
 
 #include "mapcfg/catalogs.h"
 #include "mapcfg/export.h"
+#include "mapcfg/maps.h"
 #include "mapcfg/store.h"
 #include "mapcfg/types.h"
 
@@ -28,6 +29,10 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _IntepretProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _LithProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _TextFmt& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _SysCfgParam& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _OldProdProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _OldTestProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _JWTAutoParm& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _JWTMapProp& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();
