@@ -19,12 +19,12 @@ class CCfgScript;
 // Archive: Byte DepthBaseMode, String StraBaseName, Float SglBaseDepth, Byte
 // SglDisplayMode, String Text, Byte Switch1, Byte Switch2.
 struct _JWTAutoParm {
-  char DepthBaseMode = 0;    // 1 well mouth, 2 well bottom, 3 target layer, 4 MD of target layer
-  String StraBaseName;       // base stratum
-  float SglBaseDepth = 0.0f; // base depth of symbols
-  uint8_t SglDisplayMode = 0;  // bits: 0x02, 0x04 which part of the track is shown
-  String Text;               // no key sets it; the reader empties it
-  uint8_t Switch1 = 0;       // no key sets them; the reader sets both to 1
+  char DepthBaseMode = 0;      // 1 well mouth, 2 well bottom, 3 target layer, 4 MD of the target layer
+  String StraBaseName;         // the base stratum
+  float SglBaseDepth = 0.0f;   // base depth of the symbols
+  uint8_t SglDisplayMode = 0;  // bits 0x02 and 0x04: which parts of the track are shown
+  String Text;                 // no key sets it; the reader empties it
+  uint8_t Switch1 = 0;         // no key sets the switches; the reader sets both to 1
   uint8_t Switch2 = 0;
 };
 
