@@ -199,6 +199,15 @@ Form CurveParms(uint32_t version) {
     return s;
   };
 }
+const _OldProdProp kProdStart{7, 7, 7, 7, 7, 7, kLineStart, kPattStart, kPattStart, kPattStart, kFontStart};
+const _OldTestProp kTestStart{7, 7, 7, kLineStart, kPattStart, kPattStart, kFontStart};
+template <class T>
+Form Display(T start, int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*put)(const T*), uint32_t version) {
+  return Rec(start, [=](CFFArchive& a, T& v) { return (a.*get)(&v, version); },
+             [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
+}
+const _JWTAutoParm kAutoStart{7, "start", -7.0f, 7, "start", 7, 7};
+const _JWTMapProp kMapStart{-7.0f, -7.0f, -7.0f, -7.0f, -7.0f};
 const _StatusProp kStatusStart{"start", 7, -7, 7};
 const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
 const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
@@ -252,6 +261,11 @@ const std::map<std::string, Form> kForms = {
     {"status", Catalog(kStatusStart, &CFFArchive::GetStatusProp, &CFFArchive::PutStatusProp)},
     {"interpret", Catalog(kInterpretStart, &CFFArchive::GetInterpretProp, &CFFArchive::PutInterpretProp)},
     {"lith", Catalog(kLithStart, &CFFArchive::GetLithProp, &CFFArchive::PutLithProp)},
+    {"oldprod", Display(kProdStart, &CFFArchive::GetOldProdProp, &CFFArchive::PutOldProdProp, 0x02017519)},
+    {"oldprod_old", Display(kProdStart, &CFFArchive::GetOldProdProp, &CFFArchive::PutOldProdProp, 0x02007343)},
+    {"oldtest", Display(kTestStart, &CFFArchive::GetOldTestProp, &CFFArchive::PutOldTestProp, 0x02017519)},
+    {"jwtauto", Catalog(kAutoStart, &CFFArchive::GetJWTAutoParm, &CFFArchive::PutJWTAutoParm)},
+    {"jwtmap", Catalog(kMapStart, &CFFArchive::GetJWTMapProp, &CFFArchive::PutJWTMapProp)},
     {"liths", CatalogRows(&CFFArchive::GetLithPropArray, &CFFArchive::PutLithPropArray)},
     {"pmtauto", Catalog(kPMTAutoStart, &CFFArchive::GetPMTAutoParm, &CFFArchive::PutPMTAutoParm)},
     {"pmtmap", Section(kPMTMapStart, &CFFArchive::GetPMTMapProp, &CFFArchive::PutPMTMapProp, 0x02017519)},

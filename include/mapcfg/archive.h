@@ -56,6 +56,12 @@ struct _LegendProp;
 struct _LegendMetaProp;
 struct _ScaleProp;
 struct _CurveParm;
+// Production and test display (mapcfg/catalogs.h).
+struct _OldProdProp;
+struct _OldTestProp;
+// Well location map (mapcfg/maps.h).
+struct _JWTAutoParm;
+struct _JWTMapProp;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -268,6 +274,17 @@ class MAPCFG_EXPORT CFFArchive {
   // PutLong(count), then each record; the reader appends.
   int PutCurveParmArray(const RecordArray<_CurveParm>& parms);
   int GetCurveParmArray(RecordArray<_CurveParm>& parms, uint32_t version);
+  // Production and test display; the version goes on to the line and
+  // pattern reads.
+  int PutOldProdProp(const _OldProdProp* prop);
+  int GetOldProdProp(_OldProdProp* prop, uint32_t version);
+  int PutOldTestProp(const _OldTestProp* prop);
+  int GetOldTestProp(_OldTestProp* prop, uint32_t version);
+  // Well location map parameters (no version).
+  int PutJWTAutoParm(const _JWTAutoParm* parm);
+  int GetJWTAutoParm(_JWTAutoParm* parm);
+  int PutJWTMapProp(const _JWTMapProp* prop);
+  int GetJWTMapProp(_JWTMapProp* prop);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

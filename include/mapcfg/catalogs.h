@@ -383,6 +383,46 @@ MAPCFG_EXPORT void sCfgCopyLegendProp(_LegendProp* dst, const _LegendProp* src);
 MAPCFG_EXPORT void sCfgCopyScaleProp(_ScaleProp* dst, const _ScaleProp* src);
 // Replaces `dst` with copies of the records of `src`.
 MAPCFG_EXPORT void sCfgCopyCurveParms(RecordArray<_CurveParm>& dst, const RecordArray<_CurveParm>& src);
+// --- Production and test display ----------------------------------------------
+// How the two small diagrams beside a well of a well location map are drawn:
+// its production status and its oil-test result. One process-wide record of
+// each; the readers take their keys from the block "Well Location Map"
+// ("井位图"). Plain data without constructors, like the attribute records.
+
+// Archive: six Bytes (correDate .. correMode), line, oilPatt, waterPatt,
+// inpourPatt, lblFont; the line and the patterns are read with the archive
+// version (see LINE_PROP and PATT_PROP).
+struct _OldProdProp {
+  uint8_t correDate, statMode, dataMode, pictShape, factorMode, correMode;
+  LINE_PROP line;
+  PATT_PROP oilPatt, waterPatt, inpourPatt;
+  FONT_PROP lblFont;
+};
+
+// Archive: three Bytes (pictShape, factorMode, ratiusMode), line, oilPatt,
+// waterPatt, lblFont, as _OldProdProp.
+struct _OldTestProp {
+  uint8_t pictShape, factorMode, ratiusMode;
+  LINE_PROP line;
+  PATT_PROP oilPatt, waterPatt;
+  FONT_PROP lblFont;
+};
+
+MAPCFG_EXPORT _OldProdProp* sCfgGetOldProdPropPtr();
+MAPCFG_EXPORT _OldTestProp* sCfgGetOldTestPropPtr();
+// Fill the record from the block; an empty or missing key gives its
+// default. Mode bytes (sToInteger, kept in one byte): production 1, 1, 0, 0,
+// 0, 2, test 0, 0, 2. The line: style cut to 39 bytes, width 0.5 and colour 0
+// by default. Each pattern: name cut to 39 bytes, backColor the colour key
+// (0 by default), foreColor 0, ratio `ratio`. The label font starts from
+// sInitFontProp; its face name is cut to 31 bytes, "Arial" ("黑体" in
+// Chinese) when empty, and the label font height key goes into lblFont.color
+// (height stays 24), as scripts of the suite have always been read.
+MAPCFG_EXPORT void sCfgReadOldProdProp(CCfgScript& script, _OldProdProp* prop, float ratio);
+MAPCFG_EXPORT void sCfgReadOldTestProp(CCfgScript& script, _OldTestProp* prop, float ratio);
+// Copy the whole record (destination first).
+MAPCFG_EXPORT void sCfgCopyOldProdProp(_OldProdProp* dst, const _OldProdProp* src);
+MAPCFG_EXPORT void sCfgCopyOldTestProp(_OldTestProp* dst, const _OldTestProp* src);
 
 }  // namespace mapcfg
 

@@ -42,6 +42,10 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _LegendProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _LegendMetaProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _ScaleProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _CurveParm& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _OldProdProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _OldTestProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _JWTAutoParm& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _JWTMapProp& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();
