@@ -49,6 +49,10 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _JWTMapProp& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();
+// Every record of a map kind (named in the current language), in the order
+// of its stream (sCfgWriteMapReserv ...): "frame.MapName", "curves[0].Code"
+// ...; empty for an unknown name.
+MAPCFG_EXPORT FieldTexts sDescribeMapKind(const String& kind);
 
 }  // namespace mapcfg
 

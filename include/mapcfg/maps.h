@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "mapcfg/archive.h"
 #include "mapcfg/catalogs.h"
 #include "mapcfg/export.h"
 #include "mapcfg/values.h"
@@ -167,6 +168,43 @@ MAPCFG_EXPORT void sCfgReadJWTMapProp(CCfgScript& script, _JWTMapProp* prop);
 // Field-by-field copies (destination first).
 MAPCFG_EXPORT void sCfgCopyJWTAutoParm(_JWTAutoParm* dst, const _JWTAutoParm* src);
 MAPCFG_EXPORT void sCfgCopyJWTMapProp(_JWTMapProp* dst, const _JWTMapProp* src);
+
+// --- Whole map kinds -------------------------------------------------------------
+// Each of the four kinds (well location map and the three section maps) has
+// its own layers, spacing, frame, legend, scale and curve parameters besides
+// the records above. A kind is read from the one block named by its display
+// name in the current language, and archived as one stream:
+//   section maps: Layers, HVSpace (as PutDblPoint), PMTAutoParm, PMTMapProp,
+//     MapFrame, PMTBodyProp, PMTLabelProp (not the fence map), Legend, Scale,
+//     the model flag as a Byte (not the fence map), fault line, division
+//     line, CurveParmArray;
+//   well location map: Layers, HVSpace, JWTAutoParm, JWTMapProp, MapFrame,
+//     Legend, Scale, OldProdProp, OldTestProp.
+// The stream readers hand the version to every record that takes one, stop
+// at the first failure and return the archive's error text ("" on success);
+// records read before it keep what they received.
+
+// The kind's own records, by its display name in the current language; null
+// for any other name. Owned by the store.
+MAPCFG_EXPORT _LayersProp* sCfgGetLayersPropPtr(const String& kind);
+MAPCFG_EXPORT _HVSpaceProp* sCfgGetHVSpacePropPtr(const String& kind);
+MAPCFG_EXPORT _MapFrameProp* sCfgGetMapFramePropPtr(const String& kind);
+MAPCFG_EXPORT _LegendProp* sCfgGetLegendPropPtr(const String& kind);
+MAPCFG_EXPORT _ScaleProp* sCfgGetScalePropPtr(const String& kind);
+MAPCFG_EXPORT RecordArray<_CurveParm>* sCfgGetCurveParmsPtr(const String& kind);
+
+MAPCFG_EXPORT void sCfgReadMapReserv(CCfgScript& script);
+MAPCFG_EXPORT String sCfgWriteMapReserv(CFFArchive& archive);
+MAPCFG_EXPORT String sCfgReadMapReserv(CFFArchive& archive, uint32_t version);
+MAPCFG_EXPORT void sCfgReadMapFence(CCfgScript& script);
+MAPCFG_EXPORT String sCfgWriteMapFence(CFFArchive& archive);
+MAPCFG_EXPORT String sCfgReadMapFence(CFFArchive& archive, uint32_t version);
+MAPCFG_EXPORT void sCfgReadMapCorrel(CCfgScript& script);
+MAPCFG_EXPORT String sCfgWriteMapCorrel(CFFArchive& archive);
+MAPCFG_EXPORT String sCfgReadMapCorrel(CFFArchive& archive, uint32_t version);
+MAPCFG_EXPORT void sCfgReadMapWellLoc(CCfgScript& script);
+MAPCFG_EXPORT String sCfgWriteMapWellLoc(CFFArchive& archive);
+MAPCFG_EXPORT String sCfgReadMapWellLoc(CFFArchive& archive, uint32_t version);
 
 }  // namespace mapcfg
 

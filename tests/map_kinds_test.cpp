@@ -1,0 +1,147 @@
+// Whole map kinds: read from their blocks in either language, each with its
+// own records, and through their archive streams and back.
+#include <gtest/gtest.h>
+#include <mapcfg/mapcfg.h>
+
+#include <string>
+#include <vector>
+
+#include "archive_test_util.h"
+#include "test_util.h"
+
+using namespace mapcfg;
+
+namespace {
+
+// English block and key names, turned into the language `lang` through the
+// configuration string table.
+String Named(const String& english, char lang) {
+  for (int i = 0; i < kCfgStrCount; ++i)
+    if (sGetCfgStr(0, i) == english) return sGetCfgStr(lang, i);
+  ADD_FAILURE() << "no configuration string " << english;
+  return english;
+}
+
+struct Row {
+  const char* key;
+  const char* value;
+};
+
+// A block of every kind with keys of each of its records set away from
+// their defaults (section maps share the rows; the correlation map gets a
+// few of its own so that the kinds differ).
+String Script(char lang) {
+  const Row common[] = {{"PatternRatio", "2"},        {"HorzSpaceRatio", "1.5"}, {"MapName", "Liuhe field"},
+                        {"FrameFlags", "3"},          {"Legend", "0"},           {"LegendMetaCols", "3"},
+                        {"ScaleHeight", "4"},         {"ScaleMajorUnit", "km"},  {"LegendBorderWidth", "0.4"}};
+  const Row section[] = {{"FixedSpace", "-30"},     {"TopVD", "1200"},          {"LeastInterlayer", "0"},
+                         {"RulerScaleSpace", "20"}, {"SmoothModelLine", "1"},   {"FaultLineWidth", "0.8"},
+                         {"HoleWidth", "12"},       {"Perforation Symbol", "P"}, {"Curve", "GR; Gamma; 0; 150; Dash; 0.3; FF0000"},
+                         {"Curve", "SP; Spont; -80; 20; ; 0.2; 00FF00"},       {"FillingCurve", "GR; SP; Sand; FFFF00"}};
+  const Row wellloc[] = {{"DepthBaseMode", "2"},  {"SglBaseDepth", "-5"},  {"WSymbolRadius", "30"},
+                         {"StatusLineWidth", "1"}, {"TestLblFontHeight", "30"}, {"StatusCorreMode", "1"}};
+  String s;
+  const auto block = [&](const char* kind, std::vector<Row> rows) {
+    s += "Config: " + Named(kind, lang) + "\nBegin\n";
+    for (const Row& r : rows) s += Named(r.key, lang) + " = " + r.value + "\n";
+    s += "End\n";
+  };
+  std::vector<Row> rows(std::begin(common), std::end(common));
+  rows.insert(rows.end(), std::begin(section), std::end(section));
+  block("Reservoir Profile Map", rows);
+  block("Fence Map", rows);
+  rows.push_back({"MapHVRatio", "3"});
+  rows.push_back({"RulerTickLength", "7"});
+  block("Multi-well Correlation Map", rows);
+  rows.assign(std::begin(common), std::end(common));
+  rows.insert(rows.end(), std::begin(wellloc), std::end(wellloc));
+  block("Well Location Map", rows);
+  return s;
+}
+
+std::vector<String> Values(const FieldTexts& fields) {
+  std::vector<String> v;
+  for (const FieldText& f : fields) v.push_back(f.value);
+  return v;
+}
+
+const char* const kKinds[] = {"Well Location Map", "Reservoir Profile Map", "Fence Map", "Multi-well Correlation Map"};
+
+std::vector<FieldTexts> Kinds(char lang) {
+  std::vector<FieldTexts> all;
+  for (const char* kind : kKinds) all.push_back(sDescribeMapKind(Named(kind, lang)));
+  return all;
+}
+
+TEST(MapKinds, ReadInEitherLanguageAndThroughTheirStreams) {
+  mapcfg_test::StoreGuard guard;
+  mapcfg_test::TempDir dir;
+  std::vector<FieldTexts> english;
+  for (char lang : {0, 1}) {
+    *sGetCfgLang() = lang;
+    sCfgClearPlate();
+    const std::vector<FieldTexts> defaults = Kinds(lang);
+    CCfgScript script;
+    script.Open(dir.Write("kinds.cfg", Script(lang)).c_str(), 0);
+    sCfgReadMapWellLoc(script);
+    sCfgReadMapReserv(script);
+    sCfgReadMapFence(script);
+    sCfgReadMapCorrel(script);
+    const std::vector<FieldTexts> read = Kinds(lang);
+    // Every kind changed from its defaults, and the kinds keep apart.
+    for (size_t k = 0; k < read.size(); ++k) {
+      ASSERT_FALSE(read[k].empty()) << kKinds[k];
+      size_t changed = 0;
+      for (size_t f = 0; f < read[k].size() && f < defaults[k].size(); ++f) changed += read[k][f].value != defaults[k][f].value;
+      EXPECT_GE(changed, 10u) << kKinds[k];
+    }
+    EXPECT_NE(Values(read[1]), Values(read[3]));  // the correlation map has rows of its own
+    if (lang == 0) english = read;
+    // The same script in Chinese reads to the same records, texts apart.
+    if (lang == 1) {
+      for (size_t k = 0; k < read.size(); ++k) EXPECT_EQ(read[k].size(), english[k].size()) << kKinds[k];
+    }
+
+    // The four streams, one after the other, read back field by field.
+    CFFArchive a;
+    EXPECT_EQ(sCfgWriteMapWellLoc(a), "");
+    EXPECT_EQ(sCfgWriteMapReserv(a), "");
+    EXPECT_EQ(sCfgWriteMapFence(a), "");
+    EXPECT_EQ(sCfgWriteMapCorrel(a), "");
+    const std::string bytes = mapcfg_test::Bytes(a);
+    sCfgClearPlate();
+    CFFArchive in;
+    mapcfg_test::Loaded(in, bytes);
+    EXPECT_EQ(sCfgReadMapWellLoc(in, 0xFFFFFFFFu), "");
+    EXPECT_EQ(sCfgReadMapReserv(in, 0xFFFFFFFFu), "");
+    EXPECT_EQ(sCfgReadMapFence(in, 0xFFFFFFFFu), "");
+    EXPECT_EQ(sCfgReadMapCorrel(in, 0xFFFFFFFFu), "");
+    const std::vector<FieldTexts> back = Kinds(lang);
+    for (size_t k = 0; k < read.size(); ++k) {
+      for (size_t f = 0; f < read[k].size(); ++f) {
+        // Two perforation texts of the section maps live in scripts only.
+        const String& name = read[k][f].name;
+        if (name.find("Perforation") != std::string::npos && name.find("Symbol") == std::string::npos) continue;
+        EXPECT_EQ(back[k][f].value, read[k][f].value) << kKinds[k] << " " << name;
+      }
+    }
+    CFFArchive again;
+    sCfgWriteMapWellLoc(again);
+    sCfgWriteMapReserv(again);
+    sCfgWriteMapFence(again);
+    sCfgWriteMapCorrel(again);
+    EXPECT_EQ(mapcfg_test::Bytes(again), bytes);
+
+    // A stream cut short stops with the archive's error; what came before
+    // the cut is read.
+    sCfgClearPlate();
+    CFFArchive cut;
+    mapcfg_test::Loaded(cut, bytes.substr(0, 60));
+    EXPECT_EQ(sCfgReadMapWellLoc(cut, 0xFFFFFFFFu), sGetInfoStr(838));
+    EXPECT_EQ(sDescribeMapKind(Named("Well Location Map", lang))[0].value, read[0][0].value);
+  }
+  EXPECT_TRUE(sDescribeMapKind("No such map").empty());
+  EXPECT_EQ(sCfgGetLayersPropPtr("Fence Map"), nullptr);  // an English name while Chinese is in force
+}
+
+}  // namespace
