@@ -1,5 +1,6 @@
-// Every record reader of the catalogues and the store on any bytes, with any
-// archive version: the first four bytes are the version, the fifth chooses
+// Every record reader of the catalogues and the store, and the streams of
+// the whole store and of each map kind, on any bytes, with any archive
+// version: the first four bytes are the version, the fifth chooses
 // the reader, the rest is the stream. A count in the stream never allocates
 // ahead of the bytes that follow it (the sanitizers' allocation limit would
 // stop the run).
@@ -16,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const uint8_t op = data[4];
   CFFArchive a;
   a.FromData(data + 5, static_cast<uint32_t>(size - 5));
-  switch (op % 12) {
+  switch (op % 16) {
     case 0: { LINE_PROP r{}; a.GetLineProp(r, version); (void)sDescribe(r); break; }
     case 1: { PATT_PROP r{}; a.GetPattProp(r, version); (void)sDescribe(r); break; }
     case 2: { FONT_PROP r{}; a.GetFontProp(r); (void)sDescribe(r); break; }
@@ -28,6 +29,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     case 8: { RecordArray<_LithProp> x, y, z; a.GetLithPropArray(x, &y, op & 32 ? &z : nullptr); break; }
     case 9: { _SysCfgParam r; a.GetSysCfgParam(&r, version); (void)sDescribe(r); break; }
     case 10: { _HVSpaceProp r; a.GetHVSpaceProp(&r); break; }
+    case 12: (void)sCfgReadMapWellLoc(a, version); sCfgClearPlate(); break;
+    case 13: (void)sCfgReadMapReserv(a, version); sCfgClearPlate(); break;
+    case 14: (void)sCfgReadMapFence(a, version); sCfgClearPlate(); break;
+    case 15: (void)sCfgReadMapCorrel(a, version); sCfgClearPlate(); break;
     default: {
       const char saved_lang = *sGetCfgLang();
       (void)sCfgReadMain(a, version);
