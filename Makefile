@@ -26,6 +26,7 @@ demo: build
 	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table lith
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table status
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table textfmts
+	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table wellloc
 
 # Builds and runs every test.
 test: build

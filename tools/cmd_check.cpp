@@ -14,6 +14,7 @@
 #include "commands.h"
 #include "display_text.h"
 #include "input.h"
+#include "map_kinds.h"
 
 namespace mapcfg_tool {
 
@@ -296,8 +297,16 @@ class Linter : public mapcfg::ScriptEvents {
   }
 
   void CheckKeys(const std::string& block) {
+    char lang = 0;
+    const MapKind* kind = FindMapKind(block, &lang);
     std::map<std::string, const Where*> first;
     for (const Where& k : stack_.back().keys) {
+      // A mistyped key of a map kind silently keeps its default.
+      if (kind && !k.text.empty() && !IsMapKey(*kind, lang, k.text))
+        Add(k.file, k.line, "unknown-key",
+            "no reader of block " + Quote(block) + " reads the key " + Quote(k.text) +
+                " (mistyped?): what it would set keeps its default");
+      if (kind && IsRepeatedMapKey(lang, k.text)) continue;
       const auto seen = first.emplace(Folded(k.text), &k);
       if (!seen.second)
         Add(k.file, k.line, "duplicate-key",

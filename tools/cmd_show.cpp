@@ -11,6 +11,7 @@
 #include "commands.h"
 #include "display_text.h"
 #include "input.h"
+#include "map_kinds.h"
 
 namespace mapcfg_tool {
 
@@ -43,19 +44,21 @@ class Printer {
     const auto name = color_names_.find(rgb);
     return name == color_names_.end() ? hex : std::string(hex) + " (" + Text(name->second) + ")";
   }
+  std::string Value(const FieldText& f) const {
+    if (f.kind == FieldText::kText) return Quoted(f.value);
+    if (f.kind == FieldText::kHex) return Color(static_cast<uint32_t>(std::stoul(f.value, nullptr, 16)));
+    return f.value;
+  }
+  // A field of a map kind: flag sets in hexadecimal, colours named.
+  std::string KindValue(const FieldText& f) const {
+    const std::string name = Folded(f.name.substr(f.name.rfind('.') + 1));
+    if (f.kind == FieldText::kHex && name.find("color") == std::string::npos) return "0x" + f.value.substr(2);
+    return Value(f);
+  }
   // "name=value ..." of a record's fields.
   std::string Fields(const FieldTexts& fields) const {
     std::string line;
-    for (const FieldText& f : fields) {
-      line += (line.empty() ? "" : " ") + f.name + "=";
-      if (f.kind == FieldText::kText) {
-        line += Quoted(f.value);
-      } else if (f.kind == FieldText::kHex) {
-        line += Color(static_cast<uint32_t>(std::stoul(f.value, nullptr, 16)));
-      } else {
-        line += f.value;
-      }
-    }
+    for (const FieldText& f : fields) line += (line.empty() ? "" : " ") + f.name + "=" + Value(f);
     return line;
   }
 
@@ -139,7 +142,25 @@ const std::vector<Table>& Tables() {
          Pairs(p, "isoprops", "contour parameters", *sCfgGetIsoPropCodesPtr(), *sCfgGetIsoPropValsPtr());
        }},
   };
-  return tables;
+  static const std::vector<Table> with_kinds = [] {
+    std::vector<Table> all = tables;
+    for (const MapKind& kind : MapKinds()) all.push_back({kind.table, [&kind](const Printer& p) {
+                                                           const FieldTexts fields =
+                                                               sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), kind.name_row));
+                                                           Heading(kind.table, kind.what, fields.size());
+                                                           for (const FieldText& f : fields)
+                                                             std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
+                                                         }});
+    return all;
+  }();
+  return with_kinds;
+}
+
+// The map kinds are read from their own blocks, not from the whole store.
+bool IsMapKindTable(const Table& t) {
+  for (const MapKind& kind : MapKinds())
+    if (std::string(kind.table) == t.name) return true;
+  return false;
 }
 
 void ReadEveryTable(mapcfg::CCfgScript& script) {
@@ -148,6 +169,7 @@ void ReadEveryTable(mapcfg::CCfgScript& script) {
                     sCfgReadLithProps, sCfgReadColors, sCfgReadPrevColor, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
                     sCfgReadGZFHs, sCfgReadTextFmts, sCfgReadDataSrcs, sCfgReadLabelCrvs, sCfgIsoLineProp})
     read(script);
+  for (const MapKind& kind : MapKinds()) kind.read(script);
 }
 
 // The language whose block names the script uses more: the block names of
@@ -185,6 +207,8 @@ int RunShow(const Call& call) {
       for (const Table& t : Tables()) names += std::string(names.empty() ? "" : ", ") + t.name;
       return UsageError("no table '" + NameToDisplay(call.Value("--table")) + "' (tables: " + names + ")");
     }
+    if (from_archive && IsMapKindTable(*only))
+      return UsageError(std::string("the ") + only->name + " table is read from scripts: the whole-store archive has no map kinds");
   }
 
   const char saved_lang = *mapcfg::sGetCfgLang();
@@ -225,7 +249,7 @@ int RunShow(const Call& call) {
 
   const Printer printer(raw);
   for (const Table& t : Tables())
-    if (!only || only == &t) t.print(printer);
+    if (only ? only == &t : !(from_archive && IsMapKindTable(t))) t.print(printer);
   *mapcfg::sGetCfgLang() = saved_lang;
   return status;
 }
