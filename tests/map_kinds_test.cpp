@@ -144,4 +144,25 @@ TEST(MapKinds, ReadInEitherLanguageAndThroughTheirStreams) {
   EXPECT_EQ(sCfgGetLayersPropPtr("Fence Map"), nullptr);  // an English name while Chinese is in force
 }
 
+// The four kinds of the example configuration, byte for byte as their
+// streams were first written (tests/data/archive/kinds_en.arc): the layouts
+// are a file format, and a change must be guarded by a new version.
+TEST(MapKinds, ExampleStreamsAreTheGoldenFile) {
+  mapcfg_test::StoreGuard guard;
+  *sGetCfgLang() = 0;
+  sCfgClearPlate();
+  CCfgScript script;
+  script.Open(MAPCFG_EXAMPLES "/en/field.cfg", 0);
+  sCfgReadMapWellLoc(script);
+  sCfgReadMapReserv(script);
+  sCfgReadMapFence(script);
+  sCfgReadMapCorrel(script);
+  CFFArchive a;
+  sCfgWriteMapWellLoc(a);
+  sCfgWriteMapReserv(a);
+  sCfgWriteMapFence(a);
+  sCfgWriteMapCorrel(a);
+  EXPECT_EQ(mapcfg_test::Bytes(a), mapcfg_test::ReadAll(MAPCFG_TEST_DATA "/archive/kinds_en.arc"));
+}
+
 }  // namespace
