@@ -4,24 +4,15 @@
 // cleared, read back and written again, the two streams must be the same
 // bytes. The first byte of the input chooses the language (odd: Chinese).
 #include <mapcfg/mapcfg.h>
-#include <unistd.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <string>
 
-namespace {
+#include "fuzz_util.h"
 
-const std::string& ScriptPath() {
-  static const std::string path = [] {
-    char tmpl[] = "/tmp/mapcfg-fuzz-catalogs-XXXXXX";
-    if (!mkdtemp(tmpl)) std::abort();
-    return std::string(tmpl) + "/main.cfg";
-  }();
-  return path;
-}
+namespace {
 
 std::string Stream() {
   mapcfg::CFFArchive a;
@@ -45,15 +36,11 @@ void Decompose(std::string description) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace mapcfg;
   if (size == 0) return 0;
-  const char saved_lang = *sGetCfgLang();
+  mapcfg_fuzz::StoreReset reset;
   *sGetCfgLang() = static_cast<char>(data[0] & 1);
-  std::FILE* f = std::fopen(ScriptPath().c_str(), "wb");
-  if (!f) std::abort();
-  std::fwrite(data + 1, 1, size - 1, f);
-  std::fclose(f);
-
+  const std::string path = mapcfg_fuzz::WriteScratch("main.cfg", data + 1, size - 1);
   CCfgScript script;
-  script.Open(ScriptPath().c_str(), 0);
+  script.Open(path.c_str(), 0);
   for (auto read : {sCfgReadSysCfgParam, sCfgReadLibDlls, sCfgReadMenuFuns, sCfgReadStatusProps,
                     sCfgReadInterpretProps, sCfgReadLithProps, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
                     sCfgReadGZFHs, sCfgReadColors, sCfgReadPrevColor, sCfgReadTextFmts, sCfgReadDataSrcs,
@@ -74,21 +61,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
   // The store through its stream and back, byte for byte.
   const std::string first = Stream();
-  sCfgClearPlate();
-  sCfgGetLibNamesPtr()->clear();
-  sCfgGetLibDllsPtr()->clear();
-  sCfgGetMenuNamesPtr()->clear();
-  sCfgGetMenuFunsPtr()->clear();
+  mapcfg_fuzz::StoreReset::Clear();
   CFFArchive in;
   in.FromData(first.data(), static_cast<uint32_t>(first.size()));
   if (!sCfgReadMain(in, 0xFFFFFFFFu).empty()) std::abort();
   if (Stream() != first) std::abort();
-
-  sCfgClearPlate();
-  sCfgGetLibNamesPtr()->clear();
-  sCfgGetLibDllsPtr()->clear();
-  sCfgGetMenuNamesPtr()->clear();
-  sCfgGetMenuFunsPtr()->clear();
-  *sGetCfgLang() = saved_lang;
   return 0;
 }

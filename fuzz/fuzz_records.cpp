@@ -1,13 +1,27 @@
-// Every record reader of the catalogues and the store, and the streams of
-// the whole store and of each map kind, on any bytes, with any archive
-// version: the first four bytes are the version, the fifth chooses
-// the reader, the rest is the stream. A count in the stream never allocates
-// ahead of the bytes that follow it (the sanitizers' allocation limit would
-// stop the run).
+// Every record reader, and the streams of the whole store and of each map
+// kind, on any bytes with any archive version: the first four bytes are the
+// version, the fifth chooses the reader, the rest is the stream. A count in
+// the stream never allocates ahead of the bytes that follow it (the
+// sanitizers' allocation limit would stop the run). A record read is written
+// again and described, so that whatever a reader leaves is a record the
+// writer and the describer take.
 #include <mapcfg/mapcfg.h>
 
 #include <cstdint>
 #include <cstring>
+
+#include "fuzz_util.h"
+
+namespace {
+
+template <class R>
+void Use(const R& r, int (mapcfg::CFFArchive::*put)(const R*)) {
+  mapcfg::CFFArchive out;
+  (out.*put)(&r);
+  (void)mapcfg::sDescribe(r);
+}
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace mapcfg;
@@ -17,7 +31,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const uint8_t op = data[4];
   CFFArchive a;
   a.FromData(data + 5, static_cast<uint32_t>(size - 5));
-  switch (op % 16) {
+  mapcfg_fuzz::StoreReset reset;
+  switch (op % 30) {
     case 0: { LINE_PROP r{}; a.GetLineProp(r, version); (void)sDescribe(r); break; }
     case 1: { PATT_PROP r{}; a.GetPattProp(r, version); (void)sDescribe(r); break; }
     case 2: { FONT_PROP r{}; a.GetFontProp(r); (void)sDescribe(r); break; }
@@ -27,24 +42,28 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     case 6: { RecordArray<_StatusProp> x, y, z; a.GetStatusPropArray(x, op & 16 ? &y : nullptr, op & 32 ? &z : nullptr); break; }
     case 7: { RecordArray<_IntepretProp> x, y; a.GetInterpretPropArray(x, op & 16 ? &y : nullptr); break; }
     case 8: { RecordArray<_LithProp> x, y, z; a.GetLithPropArray(x, &y, op & 32 ? &z : nullptr); break; }
-    case 9: { _SysCfgParam r; a.GetSysCfgParam(&r, version); (void)sDescribe(r); break; }
-    case 10: { _HVSpaceProp r; a.GetHVSpaceProp(&r); break; }
-    case 12: (void)sCfgReadMapWellLoc(a, version); sCfgClearPlate(); break;
-    case 13: (void)sCfgReadMapReserv(a, version); sCfgClearPlate(); break;
-    case 14: (void)sCfgReadMapFence(a, version); sCfgClearPlate(); break;
-    case 15: (void)sCfgReadMapCorrel(a, version); sCfgClearPlate(); break;
-    default: {
-      const char saved_lang = *sGetCfgLang();
-      (void)sCfgReadMain(a, version);
-      (void)sDescribeMainStore();
-      sCfgClearPlate();
-      sCfgGetLibNamesPtr()->clear();
-      sCfgGetLibDllsPtr()->clear();
-      sCfgGetMenuNamesPtr()->clear();
-      sCfgGetMenuFunsPtr()->clear();
-      *sGetCfgLang() = saved_lang;
-      break;
-    }
+    case 9: { _SysCfgParam r; a.GetSysCfgParam(&r, version); Use(r, &CFFArchive::PutSysCfgParam); break; }
+    case 10: { _HVSpaceProp r; a.GetHVSpaceProp(&r); Use(r, &CFFArchive::PutHVSpaceProp); break; }
+    case 11: (void)sCfgReadMain(a, version); (void)sDescribeMainStore(); break;
+    case 12: (void)sCfgReadMapWellLoc(a, version); break;
+    case 13: (void)sCfgReadMapReserv(a, version); break;
+    case 14: (void)sCfgReadMapFence(a, version); break;
+    case 15: (void)sCfgReadMapCorrel(a, version); break;
+    case 16: { _LayersProp r{}; a.GetLayersProp(&r, version); Use(r, &CFFArchive::PutLayersProp); break; }
+    case 17: { _MapFrameProp r{}; a.GetMapFrameProp(&r, version); Use(r, &CFFArchive::PutMapFrameProp); break; }
+    case 18: { _LegendProp r{}; a.GetLegendProp(&r, version); Use(r, &CFFArchive::PutLegendProp); break; }
+    case 19: { _LegendMetaProp r{}; a.GetLegendMetaProp(&r, version); Use(r, &CFFArchive::PutLegendMetaProp); break; }
+    case 20: { _ScaleProp r{}; a.GetScaleProp(&r, version); Use(r, &CFFArchive::PutScaleProp); break; }
+    case 21: { _CurveParm r; a.GetCurveParm(&r, version); Use(r, &CFFArchive::PutCurveParm); break; }
+    case 22: { RecordArray<_CurveParm> r; a.GetCurveParmArray(r, version); break; }
+    case 23: { _PMTAutoParm r{}; a.GetPMTAutoParm(&r); Use(r, &CFFArchive::PutPMTAutoParm); break; }
+    case 24: { _PMTMapProp r{}; a.GetPMTMapProp(&r, version); Use(r, &CFFArchive::PutPMTMapProp); break; }
+    case 25: { _PMTBodyProp r{}; a.GetPMTBodyProp(&r, version); Use(r, &CFFArchive::PutPMTBodyProp); break; }
+    case 26: { _PMTLableProp r{}; a.GetPMTLabelProp(&r, version); Use(r, &CFFArchive::PutPMTLabelProp); break; }
+    case 27: { _OldProdProp r{}; a.GetOldProdProp(&r, version); Use(r, &CFFArchive::PutOldProdProp); break; }
+    case 28: { _OldTestProp r{}; a.GetOldTestProp(&r, version); Use(r, &CFFArchive::PutOldTestProp); break; }
+    default: { _JWTAutoParm r; a.GetJWTAutoParm(&r); Use(r, &CFFArchive::PutJWTAutoParm);
+               _JWTMapProp m{}; a.GetJWTMapProp(&m); Use(m, &CFFArchive::PutJWTMapProp); break; }
   }
   return 0;
 }

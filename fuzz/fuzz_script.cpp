@@ -4,31 +4,15 @@
 // by index. A main script whose last line has no line end must read exactly
 // as it does with one.
 #include <mapcfg/script.h>
-#include <unistd.h>
 
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 
+#include "fuzz_util.h"
+
 namespace {
-
-const std::string& ScratchDir() {
-  static const std::string dir = [] {
-    char tmpl[] = "/tmp/mapcfg-fuzz-script-XXXXXX";
-    if (!mkdtemp(tmpl)) std::abort();
-    return std::string(tmpl);
-  }();
-  return dir;
-}
-
-void WriteFile(const std::string& path, const char* data, size_t size) {
-  std::FILE* f = std::fopen(path.c_str(), "wb");
-  if (!f) std::abort();
-  if (size) std::fwrite(data, 1, size, f);
-  std::fclose(f);
-}
 
 // What a read reports: stray rows, and the number of files opened.
 struct Collector : mapcfg::ScriptEvents {
@@ -92,14 +76,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const size_t cut = all.find(kSplit);
   const std::string main_part = cut == std::string::npos ? all : all.substr(0, cut);
   const std::string inc_part = cut == std::string::npos ? std::string() : all.substr(cut + sizeof kSplit - 1);
-  const std::string dir = ScratchDir();
-  WriteFile(dir + "/main.cfg", main_part.data(), main_part.size());
-  WriteFile(dir + "/inc.cfg", inc_part.data(), inc_part.size());
-  const std::string read = ReadBack(dir + "/main.cfg");
+  using mapcfg_fuzz::WriteScratch;
+  const std::string path = WriteScratch("main.cfg", main_part.data(), main_part.size());
+  WriteScratch("inc.cfg", inc_part.data(), inc_part.size());
+  const std::string read = ReadBack(path);
   if (!read.empty() && LineEndChangesNothing(main_part)) {
     const std::string ended = main_part + "\n";
-    WriteFile(dir + "/main.cfg", ended.data(), ended.size());
-    if (ReadBack(dir + "/main.cfg") != read) std::abort();
+    WriteScratch("main.cfg", ended.data(), ended.size());
+    if (ReadBack(path) != read) std::abort();
   }
   return 0;
 }

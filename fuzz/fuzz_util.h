@@ -1,0 +1,60 @@
+// What several fuzz targets share: a scratch file to hand the library a
+// script, and putting the store back after an input.
+#ifndef MAPCFG_FUZZ_FUZZ_UTIL_H_
+#define MAPCFG_FUZZ_FUZZ_UTIL_H_
+
+#include <mapcfg/mapcfg.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+namespace mapcfg_fuzz {
+
+// A folder of this process's own for the scripts it writes.
+inline const std::string& ScratchDir() {
+  static const std::string dir = [] {
+    char tmpl[] = "/tmp/mapcfg-fuzz-XXXXXX";
+    if (!mkdtemp(tmpl)) std::abort();
+    return std::string(tmpl);
+  }();
+  return dir;
+}
+
+// Writes `size` bytes to `name` in the scratch folder; returns its path.
+inline std::string WriteScratch(const char* name, const void* data, size_t size) {
+  const std::string path = ScratchDir() + "/" + name;
+  std::FILE* f = std::fopen(path.c_str(), "wb");
+  if (!f) std::abort();
+  if (size) std::fwrite(data, 1, size, f);
+  std::fclose(f);
+  return path;
+}
+
+// Empties every table and the extension and menu lists, and restores the
+// language byte, when it goes out of scope.
+class StoreReset {
+ public:
+  StoreReset() : lang_(*mapcfg::sGetCfgLang()) {}
+  ~StoreReset() {
+    Clear();
+    *mapcfg::sGetCfgLang() = lang_;
+  }
+  StoreReset(const StoreReset&) = delete;
+  StoreReset& operator=(const StoreReset&) = delete;
+  static void Clear() {
+    mapcfg::sCfgClearPlate();
+    for (mapcfg::StringArray* list : {mapcfg::sCfgGetLibNamesPtr(), mapcfg::sCfgGetLibDllsPtr(),
+                                      mapcfg::sCfgGetMenuNamesPtr(), mapcfg::sCfgGetMenuFunsPtr()})
+      list->clear();
+  }
+
+ private:
+  char lang_;
+};
+
+}  // namespace mapcfg_fuzz
+
+#endif  // MAPCFG_FUZZ_FUZZ_UTIL_H_
