@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <mapcfg/mapcfg.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -163,6 +164,61 @@ TEST(MapKinds, ExampleStreamsAreTheGoldenFile) {
   sCfgWriteMapFence(a);
   sCfgWriteMapCorrel(a);
   EXPECT_EQ(mapcfg_test::Bytes(a), mapcfg_test::ReadAll(MAPCFG_TEST_DATA "/archive/kinds_en.arc"));
+}
+
+// The keys a kind's readers take are exactly those sDescribeMapKindKeys
+// lists (the tool's unknown-key check trusts that list): every configuration
+// string, set in each kind's block, changes that kind's records if and only
+// if the list holds it (or a string of the same text), in both languages.
+TEST(MapKinds, KeyListsAreTheKeysTheReadersTake) {
+  mapcfg_test::StoreGuard guard;
+  mapcfg_test::TempDir dir;
+  const auto folded = [](String s) {
+    for (char& c : s) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+    return s;
+  };
+  for (char lang : {0, 1}) {
+    *sGetCfgLang() = lang;
+    std::vector<std::vector<String>> listed;  // per kind, folded key texts
+    for (const char* kind : kKinds) {
+      std::vector<String> texts;
+      for (int row : sDescribeMapKindKeys(Named(kind, lang))) texts.push_back(folded(sGetCfgStr(lang, row)));
+      EXPECT_GE(texts.size(), 40u) << kind;
+      listed.push_back(texts);
+    }
+    // Every kind's block holds one curve (so that a fill has a curve to
+    // go to) and then the key under test.
+    const auto read = [&](const String& extra) {
+      String text;
+      for (const char* kind : kKinds)
+        text += "Config: " + Named(kind, lang) + "\nBegin\n" + Named("Curve", lang) + " = 2\n" + extra + "End\n";
+      sCfgClearPlate();
+      CCfgScript script;
+      script.Open(dir.Write("keys.cfg", text).c_str(), 0);
+      sCfgReadMapWellLoc(script);
+      sCfgReadMapReserv(script);
+      sCfgReadMapFence(script);
+      sCfgReadMapCorrel(script);
+      std::vector<std::vector<String>> kinds;
+      for (const FieldTexts& k : Kinds(lang)) kinds.push_back(Values(k));
+      return kinds;
+    };
+    const auto base = read("");
+    for (int row = 0; row < kCfgStrCount; ++row) {
+      const String key = sGetCfgStr(lang, row);
+      if (key.empty() || key.find_first_of("=\r\n/[#:") != String::npos || folded(key) == "begin" ||
+          folded(key) == "end")
+        continue;
+      const auto two = read(key + " = 2\n"), seven = read(key + " = 7\n");
+      for (size_t k = 0; k < base.size(); ++k) {
+        const bool taken = two[k] != base[k] || seven[k] != base[k];
+        const bool in_list =
+            std::find(listed[k].begin(), listed[k].end(), folded(key)) != listed[k].end();
+        EXPECT_EQ(taken, in_list) << kKinds[k] << ", language " << int(lang) << ", key \"" << key << "\" (row "
+                                  << row << ")";
+      }
+    }
+  }
 }
 
 }  // namespace
