@@ -116,4 +116,44 @@ TEST(Configuration, DamagedPacksStopWithAReason) {
   EXPECT_FALSE(sCfgGetLithCodesPtr()->empty());
 }
 
+// The extension and menu lists are the host's, not the plate's.
+bool HostList(const String& name) {
+  for (const char* list : {"store.libNames[", "store.libDlls[", "store.menuNames[", "store.menuFuns["})
+    if (name.compare(0, std::char_traits<char>::length(list), list) == 0) return true;
+  return false;
+}
+
+FieldTexts PlateFields() {
+  FieldTexts fields;
+  for (FieldText& f : sDescribeAll())
+    if (!HostList(f.name)) fields.push_back(std::move(f));
+  return fields;
+}
+
+// sCfgClearPlate after every reader has filled its table gives back the
+// empty store, field for field; reading the same scripts again gives the
+// same tables, so nothing of the first reading survives a clear.
+TEST(Configuration, ClearPlateEmptiesEveryTable) {
+  mapcfg_test::StoreGuard guard;
+  for (char lang : {0, 1}) {
+    *sGetCfgLang() = lang;
+    EmptyStore();
+    const FieldTexts empty = PlateFields();
+    ReadExample(lang);
+    const FieldTexts full = sDescribeAll();
+    ASSERT_GT(full.size(), empty.size() + 500);
+    sCfgClearPlate();
+    const FieldTexts cleared = PlateFields();
+    ASSERT_EQ(cleared.size(), empty.size());
+    for (size_t i = 0; i < empty.size(); ++i) {
+      EXPECT_EQ(cleared[i].name, empty[i].name);
+      EXPECT_EQ(cleared[i].value, empty[i].value) << cleared[i].name;
+    }
+    ReadExample(lang);
+    const FieldTexts again = sDescribeAll();
+    ASSERT_EQ(again.size(), full.size());
+    for (size_t i = 0; i < full.size(); ++i) EXPECT_EQ(again[i].value, full[i].value) << full[i].name;
+  }
+}
+
 }  // namespace
