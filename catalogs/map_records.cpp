@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "base/text_bytes.h"
+#include "catalogs/attribute_values.h"
 #include "catalogs/map_record_fields.h"
 #include "mapcfg/archive.h"
 #include "mapcfg/catalogs.h"
@@ -98,10 +99,7 @@ std::unique_ptr<_CurveParm> ParseCurve(const String& value, double invalid) {
   r->Prop.RightValue = limit();
   r->Prop.InvalidValue = invalid;
   sInitLineProp(&r->Prop.Line);
-  CopyName(Face(r->Prop.Line.style), f.Text(';'));
-  const String width = f.Text(';');
-  if (!width.empty()) r->Prop.Line.width = sToFloat(width);
-  r->Prop.Line.color = f.Hex(';');
+  detail::ReadLineFields(f, r->Prop.Line);
   return r;
 }
 
@@ -115,9 +113,7 @@ void AddFill(RecordArray<_CurveParm>& parms, size_t first, const String& value, 
     auto fill = std::make_unique<_CrvFillItem>();
     fill->Curve = f.Text(';');
     sInitPattProp(&fill->Patt, ratio);
-    CopyName(Face(fill->Patt.name), f.Text(';'));
-    const String back = f.Text(';');
-    if (!back.empty()) fill->Patt.backColor = sToDWord(back);
+    detail::ReadPattFields(f, fill->Patt);
     parms[i]->Fills.push_back(std::move(fill));
     return;
   }

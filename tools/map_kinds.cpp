@@ -88,6 +88,14 @@ const std::vector<MapKind>& MapKinds() {
   return kinds;
 }
 
+const std::vector<TemplateTable>& TemplateTables() {
+  static const std::vector<TemplateTable> tables = {
+      {"planeshape", "plane-shape templates", mapcfg::sCfgReadPlaneShapes, mapcfg::sDescribePlaneShapes},
+      {"migrate", "data migration templates", mapcfg::sCfgReadDataMigrate, mapcfg::sDescribeDataMigrate},
+  };
+  return tables;
+}
+
 const MapKind* FindMapKind(const std::string& block, char* lang) {
   for (const MapKind& kind : MapKinds())
     for (char l : {0, 1})

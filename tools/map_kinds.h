@@ -29,6 +29,16 @@ const MapKind* FindMapKind(const std::string& block, char* lang);
 // ignored.
 bool IsMapKey(const MapKind& kind, char lang, const std::string& key);
 
+// The plane-shape and migration templates as the tool sees them.
+struct TemplateTable {
+  const char* table;  // show's table name: "planeshape"
+  const char* what;   // "plane-shape templates"
+  void (*read)(mapcfg::CCfgScript& script);
+  mapcfg::FieldTexts (*describe)();
+};
+
+const std::vector<TemplateTable>& TemplateTables();
+
 // The keys a block may repeat: "Curve" and "FillingCurve" (each row is one
 // curve or fill).
 bool IsRepeatedMapKey(char lang, const std::string& key);
