@@ -50,6 +50,13 @@ void Fields(V& v, PlaneShapeStream&) {
   v("noDiviTypes", t.noDiviTypes);
 }
 
+// The block that `key` of `block` names; the block named like the key when
+// its value is empty or the key is missing.
+String TemplBlock(const CCfgScript& script, const String& block, cfg::Str key) {
+  const String named = detail::KeyValue(script, block, key);
+  return named.empty() ? cfg::Name(key) : named;
+}
+
 }  // namespace
 
 _PlaneShapeTempl* sCfgGetPlaneShapeTemplPtr(int role) {
@@ -99,10 +106,10 @@ void sCfgReadPlaneShapes(CCfgScript& script) {
   PlaneShapeTable& t = Shapes();
   const String pinchOut = cfg::Name(cfg::kPinchOut), division = cfg::Name(cfg::kDivision);
   for (int role = kUpPinchOut; role <= kDownPinchOut; ++role)
-    sCfgReadPlaneShapeTempl(script, detail::KeyValue(script, pinchOut, kPinchOutKeys[role]), &t.templs[role], kRatio);
+    sCfgReadPlaneShapeTempl(script, TemplBlock(script, pinchOut, kPinchOutKeys[role]), &t.templs[role], kRatio);
   sCfgReadPlaneShapeTempl(script, division, &t.templs[kDivision], kRatio);
-  sCfgReadPlaneShapeTempl(script, detail::KeyValue(script, division, cfg::kHorizontalBoundaryLine),
-                          &t.templs[kHorzBoundary], kRatio);
+  sCfgReadPlaneShapeTempl(script, TemplBlock(script, division, cfg::kHorizontalBoundaryLine), &t.templs[kHorzBoundary],
+                          kRatio);
   sCfgReadNoDiviTypes(script, division, t.noDiviTypes, kRatio);
 }
 

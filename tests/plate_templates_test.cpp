@@ -72,7 +72,7 @@ TEST(PlateTemplates, PlaneShapesInEitherLanguageWithDefaultsAndClamps) {
   mapcfg_test::StoreGuard guard;
   const std::string script =
       "Config: <Pinch-out>\nBegin\n"
-      "<UpPinch-outTemplate> = Up tips\n<MidPinch-outTemplate> = Mid tips\n<DownPinch-outTemplate> = Nowhere\n"
+      "<UpPinch-outTemplate> = Up tips\n<MidPinch-outTemplate> = Mid tips\n<DownPinch-outTemplate> =\n"
       "End\n"
       "Config: Up tips\nBegin\n"
       "<DivisionLength> = 2.5\n<DiviInterval> = 6\n<MinTipNumber> = 2\n<MaxTipNumber> = 40\n"
@@ -91,11 +91,13 @@ TEST(PlateTemplates, PlaneShapesInEitherLanguageWithDefaultsAndClamps) {
       "<NoBoundDiviType> = ; 2; skipped\n"
       "<NoBoundDiviType> = Oil-water; -2\n"
       "End\n"
-      "Config: Flat\nBegin\n<DiviInterval> = 12\n<tip> = 0; 0.5; Dash\nEnd\n";
+      "Config: Flat\nBegin\n<DiviInterval> = 12\n<tip> = 0; 0.5; Dash\nEnd\n"
+      // The down template's block is named like its key.
+      "Config: <DownPinch-outTemplate>\nBegin\n<MinTipNumber> = 3\nEnd\n";
   const std::string expected =
       Templ("upPinchOut", "Up tips,2.5,6,2,40,1,1.5,0x0000FF,0.3,Solid,0x000000,0x00FFFF,1,Sand") +
       Templ("midPinchOut", "Mid tips,2,5,0,0,0,1,0x000000,0.05,,0x000000,0x00FF00,1,") +
-      Templ("downPinchOut", std::string("Nowhere,") + kDefaultTempl) +
+      Templ("downPinchOut", "DOWN,2,5,3,100,0,1,0x000000,0.05,,0x000000,0xFFFFFF,1,") +
       Templ("division", "DIVISION,2,5,5,5,2,1,0x000000,0.05,,0x000000,0xFFFFFF,1,") +
       Templ("horzBoundary", "Flat,2,12,1,100,0,0.5,0x000000,0.05,Dash,0x000000,0xFFFFFF,1,") +
       "noDiviTypes[0].Name=Sand-mud\nnoDiviTypes[0].Width=1.5\nnoDiviTypes[0].Patt.foreColor=0x000000\n"
@@ -106,16 +108,20 @@ TEST(PlateTemplates, PlaneShapesInEitherLanguageWithDefaultsAndClamps) {
     SCOPED_TRACE(static_cast<int>(lang));
     std::string want = expected;
     want.replace(want.find("DIVISION"), 8, Named("<Division>", lang));
+    want.replace(want.find("DOWN"), 4, Named("<DownPinch-outTemplate>", lang));
     EXPECT_EQ(ReadTable(Named(script, lang), lang, sCfgReadPlaneShapes, sDescribePlaneShapes), want);
-    // The other language's names are not read: every template keeps its
-    // defaults, named after an absent block.
+    // The other language's names are not read: every template is read from
+    // the absent block named like its key, so it keeps every default.
     const std::string none = ReadTable(Named(script, lang), static_cast<char>(1 - lang), sCfgReadPlaneShapes,
                                        sDescribePlaneShapes);
-    EXPECT_EQ(none, Templ("upPinchOut", std::string(kDefaultTempl).insert(0, ",")) +
-                        Templ("midPinchOut", std::string(kDefaultTempl).insert(0, ",")) +
-                        Templ("downPinchOut", std::string(kDefaultTempl).insert(0, ",")) +
-                        Templ("division", Named("<Division>", static_cast<char>(1 - lang)) + "," + kDefaultTempl) +
-                        Templ("horzBoundary", std::string(kDefaultTempl).insert(0, ",")));
+    const auto absent = [lang](const char* block) {
+      return Named(block, static_cast<char>(1 - lang)) + "," + kDefaultTempl;
+    };
+    EXPECT_EQ(none, Templ("upPinchOut", absent("<UpPinch-outTemplate>")) +
+                        Templ("midPinchOut", absent("<MidPinch-outTemplate>")) +
+                        Templ("downPinchOut", absent("<DownPinch-outTemplate>")) +
+                        Templ("division", absent("<Division>")) +
+                        Templ("horzBoundary", absent("<Horizontal Boundary line>")));
   }
   // The readers of one template and of the types take the caller's ratio.
   mapcfg_test::TempDir dir;

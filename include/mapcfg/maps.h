@@ -212,7 +212,8 @@ MAPCFG_EXPORT String sCfgReadMapWellLoc(CFFArchive& archive, uint32_t version);
 // along it. Each template is read from a block of its own; the block
 // "Pinch-out" ("尖灭") names the three pinch-out templates' blocks, the block
 // "Division" ("分界") is the division template itself and names the block of
-// the horizontal boundary line's template. Layouts are those of
+// the horizontal boundary line's template; a name that is empty or missing
+// is the block named like its key ("UpPinch-outTemplate" ...). Layouts are those of
 // doc/records.md; the first of them is archive layout kShapeTemplsVersion1
 // and any later change is guarded by the archive version.
 
@@ -271,10 +272,9 @@ MAPCFG_EXPORT void sCfgReadPlaneShapeTempl(CCfgScript& script, const String& blo
 // A row without a name is skipped; the pattern takes `ratio`.
 MAPCFG_EXPORT void sCfgReadNoDiviTypes(CCfgScript& script, const String& block, RecordArray<_NoDiviType>& types,
                                        float ratio);
-// The whole table: the five templates (from the blocks "Pinch-out" and
-// "Division" and the blocks they name; a name that is missing reads as an
-// absent block, so every default) and the division's types, appended.
-// Patterns take the ratio 1.
+// The whole table: the five templates (from the block "Division" and the
+// blocks that it and "Pinch-out" name; an absent block gives every default)
+// and the division's types, appended. Patterns take the ratio 1.
 MAPCFG_EXPORT void sCfgReadPlaneShapes(CCfgScript& script);
 // The five templates in role order, then Long count and each _NoDiviType.
 // Returns the archive's error text ("" on success).
