@@ -16,7 +16,7 @@ function(keys_of out)
   set(${out} "${all}" PARENT_SCOPE)
 endfunction()
 keys_of(readers catalogs/map_records.cpp catalogs/display.cpp maps/wellloc.cpp maps/section_params.cpp
-        maps/map_kinds.cpp)
+        maps/map_kinds.cpp maps/plane_shapes.cpp maps/data_migrate.cpp)
 keys_of(tool tools/map_kinds.cpp)
 if(NOT readers STREQUAL tool)
   set(only_readers ${readers})
