@@ -213,9 +213,10 @@ MAPCFG_EXPORT String sCfgReadMapWellLoc(CFFArchive& archive, uint32_t version);
 // "Pinch-out" ("尖灭") names the three pinch-out templates' blocks, the block
 // "Division" ("分界") is the division template itself and names the block of
 // the horizontal boundary line's template; a name that is empty or missing
-// is the block named like its key ("UpPinch-outTemplate" ...). Layouts are those of
-// doc/records.md; the first of them is archive layout kShapeTemplsVersion1
-// and any later change is guarded by the archive version.
+// is the block named like its key ("UpPinch-outTemplate" ...). Layouts are
+// those of doc/records.md; the first of them is archive layout
+// kShapeTemplsVersion1 and any later change is guarded by the archive
+// version.
 
 // A template. Archive: String Name, Float DivisionLength, Float DiviInterval,
 // Long MinTipNumber, Long MaxTipNumber, Byte TipShape, Float TipHeight,
@@ -260,8 +261,9 @@ MAPCFG_EXPORT _PlaneShapeTempl* sCfgGetPlaneShapeTemplPtr(int role);
 // The store's division types without a boundary line. Owned by the store.
 MAPCFG_EXPORT RecordArray<_NoDiviType>* sCfgGetNoDiviTypesPtr();
 
-// Sets every field of `templ` from the keys of `block`: Name is `block`,
-// DivisionLength, DiviInterval, MinTipNumber, MaxTipNumber as above, and
+// Sets every field of the caller's `templ` from the keys of `block`: Name
+// is `block`, DivisionLength, DiviInterval, MinTipNumber, MaxTipNumber as
+// above, and
 //   tip = shape; height; LineStyle; LineWidth; LineColor; PatternName; PatternBGColor
 // (a shape outside 0..2 is 0; the line and the pattern start from
 // sInitLineProp and sInitPattProp(p, ratio), an empty field keeps theirs).
@@ -330,7 +332,7 @@ struct _MigraTempl {
 MAPCFG_EXPORT RecordArray<_MigraTempl>* sCfgGetMigraTemplsPtr();
 MAPCFG_EXPORT RecordArray<_MigraTempl>* sCfgGetImmigraTemplsPtr();
 // The first export (immigrate 0) or import (otherwise) template named
-// `name` (ASCII case ignored), or null.
+// `name` (ASCII case ignored), or null. Owned by the store.
 MAPCFG_EXPORT _MigraTempl* sCfgFindMigraTempl(const String& name, int immigrate);
 
 // Sets every field of the template named templ->Name from the keys of
