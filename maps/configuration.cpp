@@ -14,6 +14,9 @@ namespace mapcfg {
 
 namespace {
 
+static_assert(kPackLayoutVersion >= kMapRecordsVersion1 && kPackLayoutVersion >= kShapeTemplsVersion1,
+              "a pack must be read with the newest layout of every record it holds");
+
 constexpr const char* kPackMagic = "mapcfg configuration pack";
 
 struct Section {
@@ -36,6 +39,8 @@ const Section kSections[] = {
     {"reserv", sCfgWriteMapReserv, Reader(sCfgReadMapReserv), DescribeKind<cfg::kReservoirProfileMap>},
     {"fence", sCfgWriteMapFence, Reader(sCfgReadMapFence), DescribeKind<cfg::kFenceMap>},
     {"correl", sCfgWriteMapCorrel, Reader(sCfgReadMapCorrel), DescribeKind<cfg::kMultiWellCorrelationMap>},
+    {"planeshape", sCfgWritePlaneShapes, Reader(sCfgReadPlaneShapes), sDescribePlaneShapes},
+    {"migrate", sCfgWriteDataMigrate, Reader(sCfgReadDataMigrate), sDescribeDataMigrate},
 };
 
 }  // namespace
@@ -47,7 +52,7 @@ void sCfgReadAll(CCfgScript& script) {
         sCfgReadLithProps, sCfgReadColors, sCfgReadPrevColor, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
         sCfgReadGZFHs, sCfgReadTextFmts, sCfgReadDataSrcs, sCfgReadLabelCrvs, sCfgIsoLineProp,
         ScriptReader(sCfgReadMapWellLoc), ScriptReader(sCfgReadMapReserv), ScriptReader(sCfgReadMapFence),
-        ScriptReader(sCfgReadMapCorrel)})
+        ScriptReader(sCfgReadMapCorrel), ScriptReader(sCfgReadPlaneShapes), ScriptReader(sCfgReadDataMigrate)})
     read(script);
 }
 

@@ -199,6 +199,16 @@ Form CurveParms(uint32_t version) {
     return s;
   };
 }
+// A migration template (not copyable, so no start value) read with `version`
+// into a fresh one.
+Form MigraTempl(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    _MigraTempl v;
+    const int ok = in.GetMigraTempl(&v, version);
+    if (out) out->PutMigraTempl(&v);
+    return Text(ok) + Fields(v);
+  };
+}
 const _OldProdProp kProdStart{7, 7, 7, 7, 7, 7, kLineStart, kPattStart, kPattStart, kPattStart, kFontStart};
 const _OldTestProp kTestStart{7, 7, 7, kLineStart, kPattStart, kPattStart, kFontStart};
 template <class T>
@@ -279,6 +289,11 @@ const std::map<std::string, Form> kForms = {
     {"scale", MapRecord(&CFFArchive::GetScaleProp, &CFFArchive::PutScaleProp, kMapRecordsVersion1)},
     {"curves", CurveParms(kMapRecordsVersion1)},
     {"curves_old", CurveParms(0x02007343)},
+    {"shapetempl", MapRecord(&CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, kShapeTemplsVersion1)},
+    {"shapetempl_old", MapRecord(&CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, 0x02007343)},
+    {"nodivi", MapRecord(&CFFArchive::GetNoDiviType, &CFFArchive::PutNoDiviType, kShapeTemplsVersion1)},
+    {"migraitem", MapRecord(&CFFArchive::GetMigraItem, &CFFArchive::PutMigraItem, kShapeTemplsVersion1)},
+    {"migratempl", MigraTempl(kShapeTemplsVersion1)},
 };
 
 // True when exactly `n` bytes of the stream have been read.

@@ -52,7 +52,8 @@ TEST(Examples, ChineseScriptIsTheGbkFormOfItsSource) {
 TEST(Examples, TwinsHoldTheSameBlocksAndRowsAndReadAlike) {
   mapcfg_test::StoreGuard guard;
   // Configuration strings of the blocks, in file order.
-  const int kBlocks[] = {530, 3, 2, 4, 9, 8, 198, 200, 535, 192, 195, 1, 12, 14, 15, 320, 338, 339, 341, 340};
+  const int kBlocks[] = {530, 3, 2, 4, 9, 8, 198, 200, 535, 192, 195, 1, 12, 14, 15, 320, 338, 339, 341, 340,
+                         123, 124, 126, 113, 342, 127, 128};
   CCfgScript en, zh;
   en.Open(kEn.c_str(), 0);
   zh.Open(kZh.c_str(), 0);
@@ -69,8 +70,9 @@ TEST(Examples, TwinsHoldTheSameBlocksAndRowsAndReadAlike) {
   }
 
   // Each script read in its own language gives the same settings.
-  std::string read[2];
+  std::string read[2], templates[2];
   for (int lang : {0, 1}) {
+    sCfgClearPlate();
     sCfgGetLibDllsPtr()->clear();  // sCfgClearPlate leaves the extension lists
     sCfgGetMenuFunsPtr()->clear();
     *sGetCfgLang() = static_cast<char>(lang);
@@ -78,7 +80,13 @@ TEST(Examples, TwinsHoldTheSameBlocksAndRowsAndReadAlike) {
     sCfgReadSysCfgParam(script);
     sCfgReadLibDlls(script);
     sCfgReadMenuFuns(script);
+    sCfgReadPlaneShapes(script);
+    sCfgReadDataMigrate(script);
     for (const FieldText& f : sDescribe(*sCfgGetSysCfgParamPtr())) read[lang] += f.value + ";";
+    // The templates alike but for their names, which each language gives.
+    for (const FieldTexts& table : {sDescribePlaneShapes(), sDescribeDataMigrate()})
+      for (const FieldText& f : table)
+        templates[lang] += f.name + "=" + (f.name.size() > 4 && f.name.substr(f.name.size() - 4) == "Name" ? "" : f.value) + ";";
     for (const StringArray* files : {sCfgGetLibDllsPtr(), sCfgGetMenuFunsPtr()})
       for (const String& file : *files) read[lang] += file + ";";
   }
@@ -86,6 +94,9 @@ TEST(Examples, TwinsHoldTheSameBlocksAndRowsAndReadAlike) {
             "145.5;0;0;WellImport.dll;CurveTools.dll;ReservoirSection.dll;GridEdit.exe;WellBrowse.exe;"
             "ProdAnalysis.exe;");
   EXPECT_EQ(read[1], read[0]);
+  EXPECT_EQ(templates[1], templates[0]);
+  EXPECT_NE(templates[0].find("immigrate[2].Items[3].Source=BTM_DEP;"), std::string::npos) << templates[0];
+  EXPECT_NE(templates[0].find("noDiviTypes[1].Patt.name=SiltstonePattern;"), std::string::npos);
 }
 
 }  // namespace

@@ -297,16 +297,15 @@ class Linter : public mapcfg::ScriptEvents {
   }
 
   void CheckKeys(const std::string& block) {
-    char lang = 0;
-    const MapKind* kind = FindMapKind(block, &lang);
+    const BlockKeys known = FindBlockKeys(block);
     std::map<std::string, const Where*> first;
     for (const Where& k : stack_.back().keys) {
-      // A mistyped key of a map kind silently keeps its default.
-      if (kind && !k.text.empty() && !IsMapKey(*kind, lang, k.text))
+      // A mistyped key of a map kind or a template silently keeps its default.
+      if (known && !k.text.empty() && !known.Knows(k.text))
         Add(k.file, k.line, "unknown-key",
             "no reader of block " + Quote(block) + " reads the key " + Quote(k.text) +
                 " (mistyped?): what it would set keeps its default");
-      if (kind && IsRepeatedMapKey(lang, k.text)) continue;
+      if (known && known.Repeats(k.text)) continue;
       const auto seen = first.emplace(Folded(k.text), &k);
       if (!seen.second)
         Add(k.file, k.line, "duplicate-key",

@@ -80,6 +80,12 @@ void Pairs(const Printer& p, const char* table, const char* what, const StringAr
     std::printf("  %s = %s\n", p.Text(names[i]).c_str(), i < values.size() ? p.Quoted(values[i]).c_str() : "");
 }
 
+// A table read from its own blocks as one list of named fields, one a line.
+void Listing(const Printer& p, const char* table, const char* what, const FieldTexts& fields) {
+  Heading(table, what, fields.size());
+  for (const FieldText& f : fields) std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
+}
+
 struct Table {
   const char* name;
   std::function<void(const Printer&)> print;
@@ -139,22 +145,24 @@ const std::vector<Table>& Tables() {
   };
   static const std::vector<Table> with_kinds = [] {
     std::vector<Table> all = tables;
-    for (const MapKind& kind : MapKinds()) all.push_back({kind.table, [&kind](const Printer& p) {
-                                                           const FieldTexts fields =
-                                                               sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), kind.name_row));
-                                                           Heading(kind.table, kind.what, fields.size());
-                                                           for (const FieldText& f : fields)
-                                                             std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
-                                                         }});
+    for (const MapKind& kind : MapKinds())
+      all.push_back({kind.table, [&kind](const Printer& p) {
+                       Listing(p, kind.table, kind.what, sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), kind.name_row)));
+                     }});
+    for (const TemplateTable& t : TemplateTables())
+      all.push_back({t.table, [&t](const Printer& p) { Listing(p, t.table, t.what, t.describe()); }});
     return all;
   }();
   return with_kinds;
 }
 
-// The map kinds are read from their own blocks, not from the whole store.
-bool IsMapKindTable(const Table& t) {
+// The map kinds and the templates are read from their own blocks, not from
+// the whole store.
+bool IsOwnBlockTable(const Table& t) {
   for (const MapKind& kind : MapKinds())
     if (std::string(kind.table) == t.name) return true;
+  for (const TemplateTable& tt : TemplateTables())
+    if (std::string(tt.table) == t.name) return true;
   return false;
 }
 
@@ -213,12 +221,12 @@ int RunShow(const Call& call) {
     std::string why;
     if (!LoadScripts(call.operands, lang, &loaded, &why)) return Fail(1, why);
   }
-  if (only && !with_kinds && IsMapKindTable(*only))
-    return UsageError(std::string("the ") + only->name + " table is read from scripts or packs: the whole-store archive has no map kinds");
+  if (only && !with_kinds && IsOwnBlockTable(*only))
+    return UsageError(std::string("the ") + only->name + " table is read from scripts or packs: the whole-store archive has no map kinds and no templates");
 
   const Printer printer(raw);
   for (const Table& t : Tables())
-    if (only ? only == &t : with_kinds || !IsMapKindTable(t)) t.print(printer);
+    if (only ? only == &t : with_kinds || !IsOwnBlockTable(t)) t.print(printer);
   *mapcfg::sGetCfgLang() = saved_lang;
   return status;
 }

@@ -62,6 +62,11 @@ struct _OldTestProp;
 // Well location map (mapcfg/maps.h).
 struct _JWTAutoParm;
 struct _JWTMapProp;
+// Plane-shape and migration templates (mapcfg/maps.h).
+struct _PlaneShapeTempl;
+struct _NoDiviType;
+struct _MigraTempl;
+struct _MigraItem;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -285,6 +290,17 @@ class MAPCFG_EXPORT CFFArchive {
   int GetJWTAutoParm(_JWTAutoParm* parm);
   int PutJWTMapProp(const _JWTMapProp* prop);
   int GetJWTMapProp(_JWTMapProp* prop);
+  // Plane-shape and migration templates. Get... takes the version for the
+  // line and pattern records inside and for layouts after
+  // kShapeTemplsVersion1.
+  int PutPlaneShapeTempl(const _PlaneShapeTempl* templ);
+  int GetPlaneShapeTempl(_PlaneShapeTempl* templ, uint32_t version);
+  int PutNoDiviType(const _NoDiviType* type);
+  int GetNoDiviType(_NoDiviType* type, uint32_t version);
+  int PutMigraTempl(const _MigraTempl* templ);
+  int GetMigraTempl(_MigraTempl* templ, uint32_t version);
+  int PutMigraItem(const _MigraItem* item);
+  int GetMigraItem(_MigraItem* item, uint32_t version);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

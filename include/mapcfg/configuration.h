@@ -14,8 +14,9 @@
 
 namespace mapcfg {
 
-// The layout version of the streams a pack holds, handed to their readers.
-constexpr uint32_t kPackLayoutVersion = 0x03020001;
+// The layout version of the streams a pack holds, handed to their readers:
+// the newest layout of any record this library writes.
+constexpr uint32_t kPackLayoutVersion = 0x03030001;
 
 // Runs every script reader of the store on `script`, in the current
 // language: system parameters, extensions, catalogues, symbol tables, text

@@ -46,6 +46,17 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _OldProdProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _OldTestProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _JWTAutoParm& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _JWTMapProp& record);
+// Plane-shape and migration templates.
+MAPCFG_EXPORT FieldTexts sDescribe(const _PlaneShapeTempl& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _NoDiviType& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _MigraTempl& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _MigraItem& record);
+// The plane-shape table in the order of its stream (sCfgWritePlaneShapes):
+// "upPinchOut.Name" ... "noDiviTypes[0].Name".
+MAPCFG_EXPORT FieldTexts sDescribePlaneShapes();
+// The migration tables in the order of their stream (sCfgWriteDataMigrate):
+// "migrate[0].Name" ... "immigrate[0].Items[1].Source".
+MAPCFG_EXPORT FieldTexts sDescribeDataMigrate();
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();

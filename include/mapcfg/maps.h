@@ -206,6 +206,159 @@ MAPCFG_EXPORT void sCfgReadMapWellLoc(CCfgScript& script);
 MAPCFG_EXPORT String sCfgWriteMapWellLoc(CFFArchive& archive);
 MAPCFG_EXPORT String sCfgReadMapWellLoc(CFFArchive& archive, uint32_t version);
 
+// --- Plane shapes: pinch-out and division line templates -----------------------
+// How the pinch-out lines of a layer (upper, middle, lower) and the division
+// lines between zones of a plane map are drawn: a line with tips repeated
+// along it. Each template is read from a block of its own; the block
+// "Pinch-out" ("尖灭") names the three pinch-out templates' blocks, the block
+// "Division" ("分界") is the division template itself and names the block of
+// the horizontal boundary line's template; a name that is empty or missing
+// is the block named like its key ("UpPinch-outTemplate" ...). Layouts are
+// those of doc/records.md; the first of them is archive layout
+// kShapeTemplsVersion1 and any later change is guarded by the archive
+// version.
+
+// A template. Archive: String Name, Float DivisionLength, Float DiviInterval,
+// Long MinTipNumber, Long MaxTipNumber, Byte TipShape, Float TipHeight,
+// LINE_PROP Line, PATT_PROP TipPatt.
+struct _PlaneShapeTempl {
+  String Name;                // the block it was read from
+  float DivisionLength = 0;   // "DivisionLength": length of a tip along the line; default 2, > 0
+  float DiviInterval = 0;     // "DiviInterval": from one tip to the next; default 5, > 0
+  int32_t MinTipNumber = 0;   // "MinTipNumber": tips even on a short line; default 1, >= 0
+  int32_t MaxTipNumber = 0;   // "MaxTipNumber": tips at most; default 100, >= MinTipNumber
+  uint8_t TipShape = 0;       // "tip" field 1: 0 triangle, 1 tick, 2 half circle
+  float TipHeight = 0;        // "tip" field 2: height across the line; default 1, > 0
+  LINE_PROP Line{};           // "tip" fields 3-5: LineStyle; LineWidth; LineColor
+  PATT_PROP TipPatt{};        // "tip" fields 6-7: PatternName; PatternBGColor (fills the tips)
+};
+
+// A division type drawn without a boundary line: a band of its pattern
+// marks the passage from one zone to the next. Archive: String Name, Float
+// Width, PATT_PROP Patt.
+struct _NoDiviType {
+  String Name;
+  float Width = 0;  // width of the band; not below 0
+  PATT_PROP Patt{};
+};
+
+// The roles of the store's plane-shape templates (sCfgGetPlaneShapeTemplPtr).
+enum PlaneShapeRole : int {
+  kUpPinchOut,    // "UpPinch-outTemplate" of the block "Pinch-out"
+  kMidPinchOut,   // "MidPinch-outTemplate"
+  kDownPinchOut,  // "DownPinch-outTemplate"
+  kDivision,      // the block "Division"
+  kHorzBoundary,  // "Horizontal Boundary line" of the block "Division"
+  kPlaneShapeRoleCount
+};
+
+// The version of the first layout of the plane-shape and migration records.
+constexpr uint32_t kShapeTemplsVersion1 = 0x03030001;
+
+// The store's template of `role`; null outside 0 .. kPlaneShapeRoleCount - 1.
+// Owned by the store.
+MAPCFG_EXPORT _PlaneShapeTempl* sCfgGetPlaneShapeTemplPtr(int role);
+// The store's division types without a boundary line. Owned by the store.
+MAPCFG_EXPORT RecordArray<_NoDiviType>* sCfgGetNoDiviTypesPtr();
+
+// Sets every field of the caller's `templ` from the keys of `block`: Name
+// is `block`, DivisionLength, DiviInterval, MinTipNumber, MaxTipNumber as
+// above, and
+//   tip = shape; height; LineStyle; LineWidth; LineColor; PatternName; PatternBGColor
+// (a shape outside 0..2 is 0; the line and the pattern start from
+// sInitLineProp and sInitPattProp(p, ratio), an empty field keeps theirs).
+MAPCFG_EXPORT void sCfgReadPlaneShapeTempl(CCfgScript& script, const String& block, _PlaneShapeTempl* templ,
+                                           float ratio);
+// Appends a record per "NoBoundDiviType" key of `block`, in key order:
+//   NoBoundDiviType = name; width; PatternName; PatternBGColor
+// A row without a name is skipped; the pattern takes `ratio`.
+MAPCFG_EXPORT void sCfgReadNoDiviTypes(CCfgScript& script, const String& block, RecordArray<_NoDiviType>& types,
+                                       float ratio);
+// The whole table: the five templates (from the block "Division" and the
+// blocks that it and "Pinch-out" name; an absent block gives every default)
+// and the division's types, appended. Patterns take the ratio 1.
+MAPCFG_EXPORT void sCfgReadPlaneShapes(CCfgScript& script);
+// The five templates in role order, then Long count and each _NoDiviType.
+// Returns the archive's error text ("" on success).
+MAPCFG_EXPORT String sCfgWritePlaneShapes(CFFArchive& archive);
+// Reads what sCfgWritePlaneShapes wrote, the types appended; stops at the
+// first failure and returns the archive's error text. An archive older than
+// kShapeTemplsVersion1 holds none of it: nothing is read and "" returned.
+MAPCFG_EXPORT String sCfgReadPlaneShapes(CFFArchive& archive, uint32_t version);
+// Resets the five templates and frees the types.
+MAPCFG_EXPORT void sCfgClearPlaneShapes();
+// Field-by-field copies (destination first).
+MAPCFG_EXPORT void sCfgCopyPlaneShapeTempl(_PlaneShapeTempl* dst, const _PlaneShapeTempl* src);
+MAPCFG_EXPORT void sCfgCopyNoDiviType(_NoDiviType* dst, const _NoDiviType* src);
+
+// --- Data migration: export and import templates --------------------------------
+// How wells' data is copied out of the suite's database ("Data_Migrate",
+// "数据迁出") and into it ("Data_Immigrate", "数据迁入"). In either block a
+// key without "|" starts a template of that name, its value listing the
+// columns; its parameters are keys of the template's name followed by a
+// "|..." suffix, written without blanks around the "|":
+//   Well location = WELL_NAME: WELL_ID; WELL_HEAD_X: X; WELL_HEAD_Y: Y
+//   Well location|Source SQL Sentence = SELECT * FROM WELL_LOC
+//   Well location|Target SQL Sentence = SELECT * FROM WELL_LOCATION
+//   Well location|Main key Parallelism = WELL_NAME: WELL_ID
+//   Well location|Well Code Parallelism = WELL_NAME; WELL_ID
+//   Well location|Immigrate Parameter = 03
+//   Well location|DIP Parameter = 0WELL_ID; 1DEPT; 2DEVI; 3AZIM
+
+// One column of a template. Archive: String Target, String Source, Byte Key.
+struct _MigraItem {
+  String Target;    // the column written
+  String Source;    // the column (or expression) read; "" the same name as Target
+  uint8_t Key = 0;  // 1: the column is part of the key that matches rows
+};
+
+// A template. Archive: String Name, String SourceSQL, String TargetSQL, Long
+// Params, String WellTarget, String WellSource, StringArray DipColumns, Long
+// count + _MigraItem each.
+struct _MigraTempl {
+  String Name;
+  String SourceSQL;        // "|Source SQL Sentence": selects the rows to copy
+  String TargetSQL;        // "|Target SQL Sentence": opens the table written
+  uint32_t Params = 0;     // "|Immigrate Parameter" (hex): 0x01 replace rows of the same key,
+                           // 0x02 add wells the target lacks, 0x04 convert depths to the target's unit
+  String WellTarget;       // "|Well Code Parallelism": the well column written;
+  String WellSource;       //   and the one read
+  StringArray DipColumns;  // "|DIP Parameter": deviation columns, each its field number and name
+  RecordArray<_MigraItem> Items;
+};
+
+// The store's export (Data_Migrate) and import (Data_Immigrate) templates,
+// in key order. Owned by the store.
+MAPCFG_EXPORT RecordArray<_MigraTempl>* sCfgGetMigraTemplsPtr();
+MAPCFG_EXPORT RecordArray<_MigraTempl>* sCfgGetImmigraTemplsPtr();
+// The first export (immigrate 0) or import (otherwise) template named
+// `name` (ASCII case ignored), or null. Owned by the store.
+MAPCFG_EXPORT _MigraTempl* sCfgFindMigraTempl(const String& name, int immigrate);
+
+// Sets every field of the template named templ->Name from the keys of
+// `block`: the columns "target: source; ..." of the name's own key (a field
+// without a target is skipped), each parameter of its "|..." key (texts as
+// written), the main key pairs marking the column of the same target or
+// added with Key 1, the deviation columns split at ";" (empty fields kept).
+MAPCFG_EXPORT void sCfgReadMigraTempl(CCfgScript& script, const String& block, _MigraTempl* templ);
+// Appends a template per key of `block` that holds no "|" (GBK pairs are
+// skipped over) and is not empty, in key order.
+MAPCFG_EXPORT void sCfgReadMigraTempls(CCfgScript& script, const String& block, RecordArray<_MigraTempl>& templs);
+// The whole table: both blocks, appended.
+MAPCFG_EXPORT void sCfgReadDataMigrate(CCfgScript& script);
+// Long count + each export template, then the same for the imports. Returns
+// the archive's error text ("" on success).
+MAPCFG_EXPORT String sCfgWriteDataMigrate(CFFArchive& archive);
+// Reads what sCfgWriteDataMigrate wrote, appending; stops at the first
+// failure and returns the archive's error text. An archive older than
+// kShapeTemplsVersion1 holds none of it: nothing is read and "" returned.
+MAPCFG_EXPORT String sCfgReadDataMigrate(CFFArchive& archive, uint32_t version);
+// Frees both tables' templates.
+MAPCFG_EXPORT void sCfgClearDataMigrate();
+// Deep copies (destination first): the items are copied, not shared.
+MAPCFG_EXPORT void sCfgCopyMigraTempl(_MigraTempl* dst, const _MigraTempl* src);
+MAPCFG_EXPORT void sCfgCopyMigraItem(_MigraItem* dst, const _MigraItem* src);
+
 }  // namespace mapcfg
 
 #endif  // MAPCFG_MAPS_H_
