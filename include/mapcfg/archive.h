@@ -62,6 +62,10 @@ struct _OldTestProp;
 // Well location map (mapcfg/maps.h).
 struct _JWTAutoParm;
 struct _JWTMapProp;
+// Statistics registry (mapcfg/maps.h).
+struct _StatTempl;
+struct _StatMeta;
+struct _StatMember;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -285,6 +289,22 @@ class MAPCFG_EXPORT CFFArchive {
   int GetJWTAutoParm(_JWTAutoParm* parm);
   int PutJWTMapProp(const _JWTMapProp* prop);
   int GetJWTMapProp(_JWTMapProp* prop);
+  // Statistics registry records: a template and an item in the layout of
+  // the template file, read with the current version; a member as one
+  // String. The array forms: PutLong(count), then each record; the readers
+  // append.
+  int PutStatTempl(const _StatTempl* templ);
+  int GetStatTempl(_StatTempl* templ);
+  int PutStatMetal(const _StatMeta* meta);
+  int GetStatMetal(_StatMeta* meta);
+  int PutStatMember(const _StatMember* member);
+  int GetStatMember(_StatMember* member);
+  int PutStatTemplArray(const RecordArray<_StatTempl>& templs);
+  int GetStatTemplArray(RecordArray<_StatTempl>& templs);
+  int PutStatMetalArray(const RecordArray<_StatMeta>& metas);
+  int GetStatMetalArray(RecordArray<_StatMeta>& metas);
+  int PutStatMemberArray(const RecordArray<_StatMember>& members);
+  int GetStatMemberArray(RecordArray<_StatMember>& members);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

@@ -46,6 +46,12 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _OldProdProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _OldTestProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _JWTAutoParm& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _JWTMapProp& record);
+// Statistics templates: every field, children and legend included
+// ("metas[0].children[1].name", "legend.2[0].name").
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatWhere& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatMeta& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatTempl& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _StatMember& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();
