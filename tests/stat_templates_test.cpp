@@ -352,6 +352,12 @@ TEST(StatTemplates, TemplateFilesOfAFolder) {
   EXPECT_EQ(sCfgReadCTPFiles(dir.path()), sGetInfoStr(838));
   EXPECT_EQ(sCfgGetMapStatPtr()->size(), 1u) << "a0.ctp comes before b.ctp";
   EXPECT_EQ(sCfgReadCTPFiles(dir.File("nothing-here")), "");
+
+  // The example folder: injection, production (two templates), water cut.
+  sCfgClearMapStat();
+  EXPECT_EQ(sCfgReadCTPFiles(MAPCFG_EXAMPLES "/stat"), "");
+  ASSERT_EQ(sCfgGetMapStatPtr()->size(), 4u);
+  EXPECT_EQ((*sCfgGetMapStatPtr())[3]->metas[0]->children[1]->children[0]->name, "High-cut wells");
 }
 
 // The registry: names and templates, the templates in the file's layout.
