@@ -18,7 +18,8 @@ build: $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)
 
 # Builds the tool and shows what it reads from the bundled examples: a
-# script, then the tables of the example oil field in English and Chinese.
+# script, then the tables of the example oil field in English and Chinese,
+# and one of its statistics template files.
 demo: build
 	$(BUILD)/tools/mapcfg script examples/wells.cfg
 	$(BUILD)/tools/mapcfg check examples/wells.cfg && echo "check: examples/wells.cfg is clean"
@@ -27,6 +28,7 @@ demo: build
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table status
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table textfmts
 	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table wellloc
+	$(BUILD)/tools/mapcfg show examples/stat/water_cut.ctp
 
 # Builds and runs every test.
 test: build
