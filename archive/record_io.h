@@ -30,6 +30,7 @@
 //   T[N] (other T)               its N elements in order
 //   StringArray                  PutStringArray (count, then the texts)
 //   std::vector<uint32_t>        PutDWordArray
+//   std::vector<int32_t>         PutIntArray (the same bytes)
 //   RecordArray<R>               PutLong(count), then each record; readers
 //                                append a new record per element
 //   a record R                   its own Fields, with the same version
@@ -38,6 +39,12 @@
 //                                GetDWord(p, n))
 //   v.Rows(name, a, b, c)        PutLong(b.size()), then a[i], b[i], c[i]
 //                                for each i (parallel arrays as rows)
+//   v.Columns(name, a, b, ...)   PutLong(a.size()), then row i of every
+//                                array in turn (any number of arrays; a
+//                                RecordArray cell is its record)
+//   v.Nested(name, records)      a RecordArray of records that hold arrays of
+//                                their own kind (trees); readers stop with
+//                                message 539 past kMaxNestedLevels levels
 //
 // Fields functions are found by argument-dependent lookup, so they live in
 // namespace mapcfg; they are not exported.
@@ -62,6 +69,11 @@ namespace detail {
 // The version writers and describers run with: every guard takes the
 // current layout.
 constexpr uint32_t kCurrentVersion = 0xFFFFFFFFu;
+
+// Levels of a tree read through Nested: the records at the top of what a
+// reader is asked for are level 1. Enough for any real template, low enough
+// that the recursion cannot exhaust the stack (also under the sanitizers).
+constexpr int kMaxNestedLevels = 256;
 
 template <class T>
 struct IsRecordArray : std::false_type {};
@@ -98,6 +110,7 @@ class RecordWriter {
   void operator()(const char*, double v) { a_.PutDouble(v); }
   void operator()(const char*, const StringArray& v) { a_.PutStringArray(v); }
   void operator()(const char*, const std::vector<uint32_t>& v) { a_.PutDWordArray(v); }
+  void operator()(const char*, const std::vector<int32_t>& v) { a_.PutIntArray(v); }
   template <class T, size_t N>
   void operator()(const char* name, const T (&items)[N]) {
     for (const T& item : items) (*this)(name, item);
@@ -106,6 +119,10 @@ class RecordWriter {
   void operator()(const char*, const RecordArray<R>& records) {
     a_.PutLong(static_cast<int32_t>(records.size()));
     for (const std::unique_ptr<R>& r : records) Record(*r);
+  }
+  template <class R>
+  void Nested(const char* name, const RecordArray<R>& records) {
+    (*this)(name, records);
   }
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char*, const R& record) {
@@ -126,11 +143,33 @@ class RecordWriter {
       (*this)(name, i < c.size() ? c[i] : C());
     }
   }
+  // Rows of parallel arrays, as many rows as `first` has; a shorter array
+  // (which hosts should not make) gives empty, zero or blank-record cells.
+  template <class First, class... Rest>
+  void Columns(const char* name, const std::vector<First>& first, const std::vector<Rest>&... rest) {
+    a_.PutLong(static_cast<int32_t>(first.size()));
+    for (size_t i = 0; i < first.size(); ++i) {
+      Cell(name, first, i);
+      (Cell(name, rest, i), ...);
+    }
+  }
 
  private:
   template <class R>
   void Record(const R& record) {
     Fields(*this, const_cast<R&>(record));
+  }
+  template <class T>
+  void Cell(const char* name, const std::vector<T>& column, size_t i) {
+    (*this)(name, i < column.size() ? column[i] : T());
+  }
+  template <class R>
+  void Cell(const char*, const RecordArray<R>& column, size_t i) {
+    if (i < column.size() && column[i]) {
+      Record(*column[i]);
+    } else {
+      Record(R{});
+    }
   }
   CFFArchive& a_;
 };
@@ -169,6 +208,9 @@ class RecordReader {
   void operator()(const char*, std::vector<uint32_t>& v) {
     if (ok_) ok_ = a_.GetDWordArray(v) != 0;
   }
+  void operator()(const char*, std::vector<int32_t>& v) {
+    if (ok_) ok_ = a_.GetIntArray(v) != 0;
+  }
   template <class T, size_t N>
   void operator()(const char* name, T (&items)[N]) {
     for (T& item : items) (*this)(name, item);
@@ -178,13 +220,13 @@ class RecordReader {
   // stream can hold allocates nothing for it.
   template <class R>
   void operator()(const char*, RecordArray<R>& records) {
-    int32_t count = 0;
-    Scalar(count, &CFFArchive::GetLong);
-    for (int32_t i = 0; ok_ && i < count; ++i) {
-      auto record = std::make_unique<R>();
-      Fields(*this, *record);
-      if (ok_) records.push_back(std::move(record));
-    }
+    ReadRecords(records, false);
+  }
+  // As above, one level deeper: a non-empty array at level kMaxNestedLevels
+  // sets error 539 and stops the reading.
+  template <class R>
+  void Nested(const char*, RecordArray<R>& records) {
+    ReadRecords(records, true);
   }
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char*, R& record) {
@@ -212,13 +254,44 @@ class RecordReader {
       Append(name, a) && Append(name, b) && Append(name, c);
     }
   }
+  template <class... C>
+  void Columns(const char* name, std::vector<C>&... columns) {
+    int32_t count = 0;
+    Scalar(count, &CFFArchive::GetLong);
+    for (int32_t i = 0; ok_ && i < count; ++i) (Append(name, columns) && ...);
+  }
 
  private:
+  template <class R>
+  void ReadRecords(RecordArray<R>& records, bool nested) {
+    int32_t count = 0;
+    Scalar(count, &CFFArchive::GetLong);
+    if (!ok_ || count <= 0) return;
+    if (nested && depth_ + 1 >= kMaxNestedLevels) {
+      ArchiveCore::Fail(a_, kMsgLibraryFailure);
+      ok_ = false;
+      return;
+    }
+    depth_ += nested ? 1 : 0;
+    for (int32_t i = 0; ok_ && i < count; ++i) {
+      auto record = std::make_unique<R>();
+      Fields(*this, *record);
+      if (ok_) records.push_back(std::move(record));
+    }
+    depth_ -= nested ? 1 : 0;
+  }
   template <class T>
   bool Append(const char* name, std::vector<T>& to) {
     T cell{};
     (*this)(name, cell);
     if (ok_) to.push_back(std::move(cell));
+    return ok_;
+  }
+  template <class R>
+  bool Append(const char*, RecordArray<R>& to) {
+    auto record = std::make_unique<R>();
+    Fields(*this, *record);
+    if (ok_) to.push_back(std::move(record));
     return ok_;
   }
   bool Check(const String&) { return ok_ = !ArchiveCore::HasError(a_); }
@@ -233,6 +306,7 @@ class RecordReader {
   CFFArchive& a_;
   uint32_t version_;
   bool ok_ = true;
+  int depth_ = 0;  // Nested levels entered
 };
 
 // Named texts of the fields: "line.width", "texts1[2]", "props[0].name".
@@ -268,11 +342,15 @@ class RecordDescriber {
   }
   template <class R>
   void operator()(const char* name, const RecordArray<R>& records) {
-    for (size_t i = 0; i < records.size(); ++i) Nested(Indexed(name, i), *records[i]);
+    for (size_t i = 0; i < records.size(); ++i) Sub(Indexed(name, i), *records[i]);
   }
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char* name, const R& record) {
-    Nested(name, record);
+    Sub(name, record);
+  }
+  template <class R>
+  void Nested(const char* name, const RecordArray<R>& records) {
+    (*this)(name, records);
   }
   void Block(const char* name, const uint32_t* words, uint32_t n) { Items(name, words, n); }
   template <class A, class B, class C>
@@ -280,6 +358,12 @@ class RecordDescriber {
     (*this)((std::string(name) + ".1").c_str(), a);
     (*this)((std::string(name) + ".2").c_str(), b);
     (*this)((std::string(name) + ".3").c_str(), c);
+  }
+  // Column k (from 1) as name.k.
+  template <class... C>
+  void Columns(const char* name, const std::vector<C>&... columns) {
+    int k = 0;
+    ((*this)((std::string(name) + "." + std::to_string(++k)).c_str(), columns), ...);
   }
 
   static std::string Hex(uint32_t v);
@@ -293,7 +377,7 @@ class RecordDescriber {
     for (size_t i = 0; i < n; ++i) (*this)(Indexed(name, i).c_str(), items[i]);
   }
   template <class R>
-  void Nested(const std::string& name, const R& record) {
+  void Sub(const std::string& name, const R& record) {
     const std::string saved = prefix_;
     prefix_ += name + ".";
     Fields(*this, const_cast<R&>(record));

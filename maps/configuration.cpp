@@ -3,6 +3,7 @@
 #include "mapcfg/configuration.h"
 
 #include <iterator>
+#include <string>
 
 #include "mapcfg/catalogs.h"
 #include "mapcfg/describe.h"
@@ -33,6 +34,21 @@ FieldTexts DescribeKind() {
 
 using Reader = String (*)(CFFArchive&, uint32_t);
 
+// The statistics templates, as one template file without a path.
+String WriteStatis(CFFArchive& a) { return sCfgWriteMapStat(a, ""); }
+String ReadStatis(CFFArchive& a, uint32_t version) { return sCfgReadMapStat("", a, version, 0); }
+FieldTexts DescribeStatis() {
+  FieldTexts all;
+  const RecordArray<_CfgStatTempl>& templs = *sCfgGetMapStatPtr();
+  for (size_t i = 0; i < templs.size(); ++i) {
+    for (FieldText& f : sDescribe(*templs[i])) {
+      f.name = "templs[" + std::to_string(i) + "]." + f.name;
+      all.push_back(std::move(f));
+    }
+  }
+  return all;
+}
+
 const Section kSections[] = {
     {"store", sCfgWriteMain, sCfgReadMain, sDescribeMainStore},
     {"wellloc", sCfgWriteMapWellLoc, Reader(sCfgReadMapWellLoc), DescribeKind<cfg::kWellLocationMap>},
@@ -41,6 +57,7 @@ const Section kSections[] = {
     {"correl", sCfgWriteMapCorrel, Reader(sCfgReadMapCorrel), DescribeKind<cfg::kMultiWellCorrelationMap>},
     {"planeshape", sCfgWritePlaneShapes, Reader(sCfgReadPlaneShapes), sDescribePlaneShapes},
     {"migrate", sCfgWriteDataMigrate, Reader(sCfgReadDataMigrate), sDescribeDataMigrate},
+    {"statis", WriteStatis, ReadStatis, DescribeStatis},
 };
 
 }  // namespace

@@ -222,6 +222,29 @@ const _StatusProp kStatusStart{"start", 7, -7, 7};
 const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
 const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
 
+// A statistics registry record read into a fresh record, and its array
+// form (each record in brackets).
+template <class T>
+Form Registry(int (CFFArchive::*get)(T*), int (CFFArchive::*put)(const T*)) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    T v{};
+    const int ok = (in.*get)(&v);
+    if (out) (out->*put)(&v);
+    return Text(ok) + Fields(v);
+  };
+}
+template <class T>
+Form RegistryArray(int (CFFArchive::*get)(RecordArray<T>&), int (CFFArchive::*put)(const RecordArray<T>&)) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<T> records;
+    const int ok = (in.*get)(records);
+    if (out) (out->*put)(records);
+    std::string s = Text(ok);
+    for (const std::unique_ptr<T>& r : records) s += "[" + Fields(*r).substr(1) + "]";
+    return s;
+  };
+}
+
 // The TestData listing from the read position, "\r\n" shown as ";" and
 // spaces as "_".
 std::string Listing(CFFArchive& in, CFFArchive*) {
@@ -294,6 +317,12 @@ const std::map<std::string, Form> kForms = {
     {"nodivi", MapRecord(&CFFArchive::GetNoDiviType, &CFFArchive::PutNoDiviType, kShapeTemplsVersion1)},
     {"migraitem", MapRecord(&CFFArchive::GetMigraItem, &CFFArchive::PutMigraItem, kShapeTemplsVersion1)},
     {"migratempl", MigraTempl(kShapeTemplsVersion1)},
+    {"statmember", Registry(&CFFArchive::GetStatMember, &CFFArchive::PutStatMember)},
+    {"statmeta", Registry(&CFFArchive::GetStatMetal, &CFFArchive::PutStatMetal)},
+    {"stattempl", Registry(&CFFArchive::GetStatTempl, &CFFArchive::PutStatTempl)},
+    {"statmembers", RegistryArray(&CFFArchive::GetStatMemberArray, &CFFArchive::PutStatMemberArray)},
+    {"statmetas", RegistryArray(&CFFArchive::GetStatMetalArray, &CFFArchive::PutStatMetalArray)},
+    {"stattempls", RegistryArray(&CFFArchive::GetStatTemplArray, &CFFArchive::PutStatTemplArray)},
 };
 
 // True when exactly `n` bytes of the stream have been read.
@@ -308,7 +337,8 @@ bool Consumed(CFFArchive& a, size_t n) {
 // error=N and consumed=N the readers must fail with message N, having read
 // that many bytes.
 TEST(ArchiveGolden, ScalarsArraysCompositesRecordsAndInvalidStreams) {
-  for (const std::string name : {"scalars.hex", "arrays.hex", "composites.hex", "invalid.hex", "records.hex"}) {
+  for (const std::string name : {"scalars.hex", "arrays.hex", "composites.hex", "invalid.hex", "records.hex",
+                                 "stat_records.hex"}) {
     std::istringstream in(mapcfg_test::ReadAll(std::string(MAPCFG_TEST_DATA) + "/archive/" + name));
     ASSERT_TRUE(in.str().size() > 0) << name;
     int n = 0;

@@ -13,6 +13,7 @@
 #include "display_text.h"
 #include "input.h"
 #include "map_kinds.h"
+#include "show_templates.h"
 
 namespace mapcfg_tool {
 
@@ -174,6 +175,14 @@ int RunShow(const Call& call) {
   if (from_archive != call.operands.empty())
     return UsageError(from_archive ? "give scripts or --archive, not both" : "missing FILE... or --archive FILE");
   if (call.Has("--version") && !from_archive) return UsageError("--version goes with --archive");
+  // Statistics template files are shown as they are, not as tables.
+  size_t templates = 0;
+  for (const std::string& file : call.operands) templates += IsStatTemplateFile(file) ? 1 : 0;
+  if (templates > 0) {
+    if (templates != call.operands.size()) return UsageError("give scripts or statistics template files, not both");
+    if (call.Has("--table") || call.Has("--lang")) return UsageError("--table and --lang go with scripts");
+    return ShowStatTemplates(call.operands, raw);
+  }
   char lang = -1;
   if (call.Has("--lang") && !ParseLang(call.Value("--lang"), &lang))
     return UsageError("--lang takes en or zh, not '" + NameToDisplay(call.Value("--lang")) + "'");

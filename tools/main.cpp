@@ -40,7 +40,8 @@ const Command kCommands[] = {
       {"--archive", "FILE", "load a whole-store archive (sCfgReadMain) instead of scripts"},
       {"--version", "N", "the archive version to read it with (default: the current layout)"},
       kRaw},
-     "the configuration tables the scripts or a whole-store archive fill, record by record",
+     "the configuration tables the scripts or a whole-store archive fill, record by record;\n"
+     "      the templates of statistics template files (*.ctp)",
      RunShow},
     {"pack", "CONFIG", 1, 1,
      {{"-o", "FILE", "the archive file to write (required)"},

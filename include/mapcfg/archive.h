@@ -67,6 +67,10 @@ struct _PlaneShapeTempl;
 struct _NoDiviType;
 struct _MigraTempl;
 struct _MigraItem;
+// Statistics registry (mapcfg/maps.h).
+struct _StatTempl;
+struct _StatMeta;
+struct _StatMember;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -301,6 +305,22 @@ class MAPCFG_EXPORT CFFArchive {
   int GetMigraTempl(_MigraTempl* templ, uint32_t version);
   int PutMigraItem(const _MigraItem* item);
   int GetMigraItem(_MigraItem* item, uint32_t version);
+  // Statistics registry records: a template and an item in the layout of
+  // the template file, read with the current version; a member as one
+  // String. The array forms: PutLong(count), then each record; the readers
+  // append.
+  int PutStatTempl(const _StatTempl* templ);
+  int GetStatTempl(_StatTempl* templ);
+  int PutStatMetal(const _StatMeta* meta);
+  int GetStatMetal(_StatMeta* meta);
+  int PutStatMember(const _StatMember* member);
+  int GetStatMember(_StatMember* member);
+  int PutStatTemplArray(const RecordArray<_StatTempl>& templs);
+  int GetStatTemplArray(RecordArray<_StatTempl>& templs);
+  int PutStatMetalArray(const RecordArray<_StatMeta>& metas);
+  int GetStatMetalArray(RecordArray<_StatMeta>& metas);
+  int PutStatMemberArray(const RecordArray<_StatMember>& members);
+  int GetStatMemberArray(RecordArray<_StatMember>& members);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

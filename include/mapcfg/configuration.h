@@ -27,7 +27,9 @@ MAPCFG_EXPORT void sCfgReadAll(CCfgScript& script);
 // Writes the whole configuration as a pack: the text "mapcfg configuration
 // pack", Long kPackLayoutVersion, Byte language (*sGetCfgLang()), Long
 // number of sections, then each section as its name (String) and its
-// stream. Returns "" or the archive's error text.
+// stream: the whole store, the four map kinds, the plane-shape and
+// migration templates, and the statistics templates as one template file.
+// Returns "" or the archive's error text.
 MAPCFG_EXPORT String sCfgWritePack(CFFArchive& archive);
 
 // Reads a pack written by sCfgWritePack into the tables; `language`, when

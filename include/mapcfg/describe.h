@@ -57,6 +57,12 @@ MAPCFG_EXPORT FieldTexts sDescribePlaneShapes();
 // The migration tables in the order of their stream (sCfgWriteDataMigrate):
 // "migrate[0].Name" ... "immigrate[0].Items[1].Source".
 MAPCFG_EXPORT FieldTexts sDescribeDataMigrate();
+// Statistics templates: every field, children and legend included
+// ("metas[0].children[1].name", "legend.2[0].name").
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatWhere& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatMeta& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatTempl& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _StatMember& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();

@@ -3,6 +3,8 @@
 #define MAPCFG_MAPS_H_
 
 #include <cstdint>
+#include <memory>
+#include <vector>
 
 #include "mapcfg/archive.h"
 #include "mapcfg/catalogs.h"
@@ -358,6 +360,155 @@ MAPCFG_EXPORT void sCfgClearDataMigrate();
 // Deep copies (destination first): the items are copied, not shared.
 MAPCFG_EXPORT void sCfgCopyMigraTempl(_MigraTempl* dst, const _MigraTempl* src);
 MAPCFG_EXPORT void sCfgCopyMigraItem(_MigraItem* dst, const _MigraItem* src);
+
+// --- Statistics map templates -----------------------------------------------------
+// Statistics maps (charts of production and other per-well statistics) are
+// made from templates kept in binary template files ("*.ctp"), not in
+// scripts. A template owns its selection conditions, a tree of statistic
+// items and a legend; copies and clones are deep (they share no record with
+// their source). The layouts are in doc/records.md.
+
+// One selection condition. Archive: String text1, Byte code, String text2,
+// String text3, StringArray values, String text4, Double dbl1, dbl2, Long
+// int1, int2, int3.
+struct _CfgStatWhere {
+  String text1;
+  uint8_t code = 0;
+  String text2;
+  String text3;
+  StringArray values;  // the condition's values
+  String text4;
+  double dbl1 = 0.0, dbl2 = 0.0;
+  int32_t int1 = 0, int2 = 0, int3 = 0;
+};
+
+// One statistic item, owning its child items. Archive: String name, Byte
+// type, five Doubles, Byte bytes[0], Byte bytes[1] (files older than
+// 0x03001430 lack it: read as 2), Byte bytes[2], IntArray ints, Byte flag,
+// Byte byte2, Double dbl, Long count and the children, String text1,
+// StringArray texts, String text2, String text3, Long count and per
+// sub-item Long, String, String, String, Double, Byte.
+struct _CfgStatMeta {
+  String name;
+  uint8_t type = 0;
+  double dbls[5] = {};     // a value range and an angle range; new: 0, 100, 100, 0, 360
+  uint8_t bytes[3] = {};   // new: 0, 2, 128
+  std::vector<int32_t> ints;
+  uint8_t flag = 0;        // new: the owning template's flag
+  uint8_t byte2 = 0;
+  double dbl = 0.0;        // new: the owning template's flagDbl
+  RecordArray<_CfgStatMeta> children;
+  String text1;
+  StringArray texts;
+  String text2;
+  String text3;
+  // One entry of each per sub-item.
+  std::vector<int32_t> subInts;
+  StringArray subTexts1, subTexts2, subTexts3;
+  std::vector<double> subDbls;
+  std::vector<uint8_t> subBytes;
+};
+
+// One statistics template. Archive: String name, text1, text2, Double dbl1,
+// the two lines and two fonts, Long count and the conditions, Byte flag,
+// Double flagDbl, Long count and the items, Long count and per legend entry
+// String, PattProp, Byte, String; Double dbl2.
+struct _CfgStatTempl {
+  String name;
+  String text1;
+  String text2;
+  double dbl1 = 0.0;
+  LINE_PROP lines[2] = {};
+  FONT_PROP fonts[2] = {};
+  RecordArray<_CfgStatWhere> wheres;
+  uint8_t flag = 0;       // copied into every new item
+  double flagDbl = 0.0;   // copied into every new item
+  RecordArray<_CfgStatMeta> metas;
+  // The legend, one entry of each per row; legendTexts1 also names the
+  // sub-items of new items.
+  StringArray legendTexts1;
+  RecordArray<PATT_PROP> legendPatts;
+  std::vector<uint8_t> legendBytes;
+  StringArray legendTexts2;
+  double dbl2 = 0.0;
+};
+
+// The store's templates, as sCfgReadMapStat appends them. Owned by the store.
+MAPCFG_EXPORT RecordArray<_CfgStatTempl>* sCfgGetMapStatPtr();
+
+// A new template named `name` with dbl1 = `value`, lines and fonts from
+// sInitLineProp and sInitFontProp, everything else empty or 0. The caller
+// owns it.
+MAPCFG_EXPORT std::unique_ptr<_CfgStatTempl> sCfgTemplNew(const char* name, double value);
+// Makes `dst` a deep copy of `src`: what dst owned is freed first, and every
+// condition, item and legend fill is duplicated. `flag` is not used. Nothing
+// happens when either is null or both are the same record.
+MAPCFG_EXPORT void sCfgTemplCopy(_CfgStatTempl* dst, const _CfgStatTempl* src, int flag);
+// A new deep copy of `src` (null for null), owned by the caller.
+MAPCFG_EXPORT std::unique_ptr<_CfgStatTempl> sCfgTemplClone(const _CfgStatTempl* src);
+// Frees the conditions, items and legend fills and empties every array; the
+// texts and numbers stay.
+MAPCFG_EXPORT void sCfgTemplClear(_CfgStatTempl* templ);
+// Clears and frees `templ`, which no unique_ptr may own any more.
+MAPCFG_EXPORT void sCfgTemplDelete(_CfgStatTempl* templ);
+
+// A new item named `name` of type `type` with the defaults above; flag and
+// dbl come from `owner` (0 when null). When the low two bits of `type` are
+// not both 0, it has one sub-item per entry of the owner's legendTexts1:
+// that text, "0", "1", 1.0 and 4 (its integer 0). The caller owns it.
+MAPCFG_EXPORT std::unique_ptr<_CfgStatMeta> sCfgMetaNew(const char* name, char type, const _CfgStatTempl* owner);
+// As sCfgTemplCopy, for items: the children are cloned.
+MAPCFG_EXPORT void sCfgMetaCopy(_CfgStatMeta* dst, const _CfgStatMeta* src, int flag);
+MAPCFG_EXPORT std::unique_ptr<_CfgStatMeta> sCfgMetaClone(const _CfgStatMeta* src);
+// Frees the children and empties every array and text; the numbers stay.
+MAPCFG_EXPORT void sCfgMetaClear(_CfgStatMeta* meta);
+MAPCFG_EXPORT void sCfgMetaDelete(_CfgStatMeta* meta);
+
+// The template file: String "Statis", Long file version (0x03012082), Long
+// count, then each template. The reader checks the "Statis" text unless
+// `noHeader` is non-zero (its caller read it), takes the file's version in
+// place of `version`, and appends each template read whole to the store's
+// templates; a count below 1 reads nothing more. Both return "" on success,
+// "统计图格式不对" (GBK) for another first text, else the archive's error
+// text at the first failure (the templates read before stay; the failed one
+// is dropped). `path` names the file for the caller: the archive is neither
+// loaded nor saved here.
+MAPCFG_EXPORT String sCfgReadMapStat(const char* path, CFFArchive& archive, uint32_t version, int noHeader);
+MAPCFG_EXPORT String sCfgWriteMapStat(CFFArchive& archive, const char* path);
+// One record each: "" or the archive's error text. The readers take the
+// archive version (items older than 0x03001430 lack bytes[1]); item trees
+// deeper than 256 levels stop with error 539. `text` is not used.
+MAPCFG_EXPORT String sCfgReadMapStat_Templ(CFFArchive& archive, _CfgStatTempl* templ, uint32_t version);
+MAPCFG_EXPORT String sCfgWriteMapStat_Templ(CFFArchive& archive, const _CfgStatTempl* templ,
+                                            const char* text = nullptr);
+MAPCFG_EXPORT String sCfgReadMapStat_Meta(CFFArchive& archive, _CfgStatMeta* meta, uint32_t version);
+MAPCFG_EXPORT String sCfgWriteMapStat_Meta(CFFArchive& archive, const _CfgStatMeta* meta);
+MAPCFG_EXPORT String sCfgReadMapStat_Where(CFFArchive& archive, _CfgStatWhere* where, uint32_t version);
+MAPCFG_EXPORT String sCfgWriteMapStat_Where(CFFArchive& archive, const _CfgStatWhere* where);
+// Clears and frees every template of the store, first to last, and frees
+// the array.
+MAPCFG_EXPORT void sCfgClearMapStat();
+
+// The statistics registry: template names and the registry's own copies of
+// templates and items. A registry template or item is a template or item
+// with the same fields and the same archive layout as in the template file
+// (current version), so every function above takes it too; a member is one
+// text (String).
+struct _StatTempl : _CfgStatTempl {};
+struct _StatMeta : _CfgStatMeta {};
+struct _StatMember {
+  String text;
+};
+struct _CfgMapStatis {
+  StringArray Names;
+  RecordArray<_StatTempl> Templs;
+};
+
+// Appends a StringArray to Names, then a template array (GetStatTemplArray)
+// to Templs; "" or the archive's error text at the first failure.
+MAPCFG_EXPORT String sCfgReadMapStatis(CFFArchive& archive, _CfgMapStatis& statis);
+// Empties both lists and frees the templates.
+MAPCFG_EXPORT void sCfgClearMapStatis(_CfgMapStatis& statis);
 
 }  // namespace mapcfg
 
