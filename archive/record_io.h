@@ -39,6 +39,10 @@
 //   v.Rows(name, a, b, c)        PutLong(b.size()), then a[i], b[i], c[i]
 //                                for each i (parallel arrays as rows)
 //
+// A record that holds records of its own type (a tree) brackets its fields
+// with v.EnterNested() and v.LeaveNested(): readers fail with error 539 on a
+// record nested deeper than kMaxRecordNesting, and no visitor goes deeper.
+//
 // Fields functions are found by argument-dependent lookup, so they live in
 // namespace mapcfg; they are not exported.
 #ifndef MAPCFG_ARCHIVE_RECORD_IO_H_
@@ -63,6 +67,25 @@ namespace detail {
 // current layout.
 constexpr uint32_t kCurrentVersion = 0xFFFFFFFFu;
 
+// Levels of records nested in records of their own type that any visitor
+// follows; the archive's trees (single-well tracks) are at most this deep.
+constexpr int kMaxRecordNesting = 256;
+
+// The level count of a visitor: Enter is false, without counting, for a
+// record that would lie deeper than kMaxRecordNesting.
+class Nesting {
+ public:
+  bool Enter() {
+    if (depth_ >= kMaxRecordNesting) return false;
+    ++depth_;
+    return true;
+  }
+  void Leave() { --depth_; }
+
+ private:
+  int depth_ = 0;
+};
+
 template <class T>
 struct IsRecordArray : std::false_type {};
 template <class R>
@@ -82,6 +105,9 @@ class RecordWriter {
   explicit RecordWriter(CFFArchive& a) : a_(a) {}
   bool ok() const { return true; }
   uint32_t version() const { return kCurrentVersion; }
+  // Writers of trees check the depth first; a deeper record is skipped.
+  bool EnterNested() { return nesting_.Enter(); }
+  void LeaveNested() { nesting_.Leave(); }
 
   void operator()(const char*, const String& v) { a_.PutString(v.c_str()); }
   template <size_t N>
@@ -133,6 +159,7 @@ class RecordWriter {
     Fields(*this, const_cast<R&>(record));
   }
   CFFArchive& a_;
+  Nesting nesting_;
 };
 
 class RecordReader {
@@ -142,6 +169,15 @@ class RecordReader {
   // False from the first failed read on; every later field is left alone.
   bool ok() const { return ok_; }
   uint32_t version() const { return version_; }
+  // False, with error 539, for a record past kMaxRecordNesting levels.
+  bool EnterNested() {
+    if (!ok_) return false;
+    if (nesting_.Enter()) return true;
+    ArchiveCore::Fail(a_, kMsgLibraryFailure);
+    ok_ = false;
+    return false;
+  }
+  void LeaveNested() { nesting_.Leave(); }
 
   void operator()(const char*, String& v) {
     if (ok_) Check(v = a_.GetString());
@@ -233,6 +269,7 @@ class RecordReader {
   CFFArchive& a_;
   uint32_t version_;
   bool ok_ = true;
+  Nesting nesting_;
 };
 
 // Named texts of the fields: "line.width", "texts1[2]", "props[0].name".
@@ -242,6 +279,8 @@ class RecordDescriber {
   bool ok() const { return true; }
   uint32_t version() const { return kCurrentVersion; }
   FieldTexts& texts() { return texts_; }
+  bool EnterNested() { return nesting_.Enter(); }
+  void LeaveNested() { nesting_.Leave(); }
 
   void operator()(const char* name, const String& v) { Add(name, v, FieldText::kText); }
   template <size_t N>
@@ -304,6 +343,7 @@ class RecordDescriber {
   }
   std::string prefix_;
   FieldTexts texts_;
+  Nesting nesting_;
 };
 
 // The archive operations of a record type, for its CFFArchive members.

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "base/text_bytes.h"
 #include "catalogs/display_fields.h"
 #include "mapcfg/archive.h"
 #include "mapcfg/catalogs.h"
@@ -71,14 +72,6 @@ const DisplayKeys<_OldTestProp, 3, 2> kTestKeys = {
     cfg::kArial316,
 };
 
-// `from` cut to N - 1 bytes.
-template <size_t N>
-void CopyName(char (&to)[N], const String& from) {
-  const size_t n = from.size() < N - 1 ? from.size() : N - 1;
-  std::memcpy(to, from.data(), n);
-  to[n] = '\0';
-}
-
 template <class R, size_t Modes, size_t Patts>
 void ReadDisplay(const CCfgScript& script, R* r, float ratio, const DisplayKeys<R, Modes, Patts>& keys) {
   if (!r) return;
@@ -88,20 +81,20 @@ void ReadDisplay(const CCfgScript& script, R* r, float ratio, const DisplayKeys<
     const String v = value(mode.key);
     r->*mode.field = v.empty() ? mode.fallback : static_cast<uint8_t>(sToInteger(v));
   }
-  CopyName(r->line.style, value(keys.lineName));
+  detail::CopyName(r->line.style, value(keys.lineName));
   const String width = value(keys.lineWidth);
   r->line.width = width.empty() ? kDefaultLineWidth : sToFloat(width);
   r->line.color = sToDWord(value(keys.lineColor));
   for (const auto& p : keys.patts) {
     PATT_PROP& patt = r->*p.field;
-    CopyName(patt.name, value(p.name));
+    detail::CopyName(patt.name, value(p.name));
     patt.backColor = sToDWord(value(p.color));
     patt.foreColor = 0;
     patt.ratio = ratio;
   }
   sInitFontProp(&r->lblFont);
   const String face = value(keys.fontName);
-  CopyName(r->lblFont.faceName, face.empty() ? cfg::Name(keys.defaultFace) : face);
+  detail::CopyName(r->lblFont.faceName, face.empty() ? cfg::Name(keys.defaultFace) : face);
   // The label font height key sets the font's colour and the height keeps
   // its default: scripts written for the suite rely on this reading.
   r->lblFont.color = sToDWord(value(keys.fontHeight));

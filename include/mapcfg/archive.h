@@ -62,6 +62,11 @@ struct _OldTestProp;
 // Well location map (mapcfg/maps.h).
 struct _JWTAutoParm;
 struct _JWTMapProp;
+// Single-well charts (mapcfg/maps.h).
+struct _DJTMapProp;
+struct _DJTTrackProp;
+struct _DJTTrack;
+struct _DJTTempl;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -285,6 +290,23 @@ class MAPCFG_EXPORT CFFArchive {
   int GetJWTAutoParm(_JWTAutoParm* parm);
   int PutJWTMapProp(const _JWTMapProp* prop);
   int GetJWTMapProp(_JWTMapProp* prop);
+  // Single-well charts. A track is its properties, its curves and its
+  // children; the Get forms fail with error 539 on a track deeper than
+  // kMaxTrackDepth and the Put forms write nothing for a tree deeper than
+  // that (error 539, 0).
+  int PutDJTMapProp(const _DJTMapProp* prop);
+  int GetDJTMapProp(_DJTMapProp* prop);
+  int PutDJTTrackProp(const _DJTTrackProp* prop);
+  int GetDJTTrackProp(_DJTTrackProp* prop, uint32_t version);
+  int PutDJTTrack(const _DJTTrack* track);
+  int GetDJTTrack(_DJTTrack* track, uint32_t version);
+  int PutDJTTempl(const _DJTTempl* templ);
+  int GetDJTTempl(_DJTTempl* templ, uint32_t version);
+  // PutLong(count), then each record; the readers append.
+  int PutDJTTrackArray(const RecordArray<_DJTTrack>& tracks);
+  int GetDJTTrackArray(RecordArray<_DJTTrack>& tracks, uint32_t version);
+  int PutDJTTemplArray(const RecordArray<_DJTTempl>& templs);
+  int GetDJTTemplArray(RecordArray<_DJTTempl>& templs, uint32_t version);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first
