@@ -1,7 +1,9 @@
 # The tool's lists of the keys the map kinds' readers look up (check's
 # unknown-key report) name exactly the keys those readers name.
 #   -DSOURCE_DIR=<project folder>
-set(not_keys kArial kArial316 kWellLocationMap kReservoirProfileMap kFenceMap kMultiWellCorrelationMap)
+# Block names, and the keys of the template list (read by maps/track_reader.cpp).
+set(not_keys kArial kArial316 kWellLocationMap kReservoirProfileMap kFenceMap kMultiWellCorrelationMap
+    kSingleWellMap kSingleWellTemplate kDefaultTemplate kTemplate)
 function(keys_of out)
   set(all)
   foreach(file IN LISTS ARGN)
@@ -16,7 +18,7 @@ function(keys_of out)
   set(${out} "${all}" PARENT_SCOPE)
 endfunction()
 keys_of(readers catalogs/map_records.cpp catalogs/display.cpp maps/wellloc.cpp maps/section_params.cpp
-        maps/map_kinds.cpp)
+        maps/map_kinds.cpp maps/single_well.cpp maps/track_reader.cpp)
 keys_of(tool tools/map_kinds.cpp)
 if(NOT readers STREQUAL tool)
   set(only_readers ${readers})

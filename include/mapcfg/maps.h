@@ -251,7 +251,7 @@ constexpr int kMaxTrackCount = 65536;
 // Key rows one script read visits at most: each track visits the rows of its
 // block once (a block read by many tracks counts for each). Bounds the
 // curves a fan-out of blocks can copy.
-constexpr int kMaxTrackRows = 1 << 20;
+constexpr int kMaxTrackRows = 1 << 18;
 
 // The single instances, owned by the store; never null.
 MAPCFG_EXPORT _DJTMapProp* sCfgGetDJTMapPropPtr();
