@@ -13,10 +13,13 @@ namespace {
 namespace cfg = mapcfg::cfg;
 using Keys = std::vector<int>;
 
-// catalogs/map_records.cpp: layers, spacing, frame, legend, scale.
+// catalogs/map_records.cpp: layers and spacing.
+const Keys kLayerKeys = {cfg::kPatternRatio, cfg::kVertWellMode, cfg::kMapHVRatio, cfg::kMapHorzExpand,
+                         cfg::kMajorHigh, cfg::kMapVertMajorIncrement, cfg::kHorzSpaceRatio, cfg::kVertSpaceRatio};
+
+// catalogs/map_records.cpp: frame, legend, scale.
 const Keys kMapRecordKeys = {
-    cfg::kPatternRatio, cfg::kVertWellMode, cfg::kMapHVRatio, cfg::kMapHorzExpand, cfg::kMajorHigh,
-    cfg::kMapVertMajorIncrement, cfg::kHorzSpaceRatio, cfg::kVertSpaceRatio, cfg::kMapName, cfg::kMapMarkLabel,
+    cfg::kMapName, cfg::kMapMarkLabel,
     cfg::kDrawMapInfo, cfg::kFrameFlags, cfg::kMapTickLength, cfg::kVScaleSpace, cfg::kHScaleSpace,
     cfg::kVGridLineSpace, cfg::kHGridLineSpace, cfg::kBoundOutExt, cfg::kMapNameFontHeight, cfg::kMapNameFontName,
     cfg::kMapNameFontClr, cfg::kMapLabelFontHeight, cfg::kMapInfoFontHeight, cfg::kMapInfoFontName,
@@ -26,6 +29,10 @@ const Keys kMapRecordKeys = {
     cfg::kLineWidth, cfg::kFontHeight, cfg::kScaleHeight, cfg::kScaleMinorNumber, cfg::kScaleMajorNumber,
     cfg::kScaleMajorSpace, cfg::kScaleMinorFactor, cfg::kScaleMajorFactor, cfg::kScaleMinorUnit,
     cfg::kScaleMajorUnit, cfg::kScaleLineWidth};
+
+// maps/single_well.cpp: the single-well chart's properties.
+const Keys kSingleWellKeys = {cfg::kRlev, cfg::kEffectiveVal1, cfg::kEffectiveVal2, cfg::kPerforationSymbol,
+                              cfg::kPerforationPlug, cfg::kPerforationUnplug};
 
 // catalogs/map_records.cpp, the curve parameters: the section maps only.
 const Keys kCurveKeys = {cfg::kCrvInvalidValue, cfg::kCurve, cfg::kFillingCurve};
@@ -78,12 +85,15 @@ bool Matches(char lang, int row, const std::string& text) {
 const std::vector<MapKind>& MapKinds() {
   static const std::vector<MapKind> kinds = {
       {"wellloc", "well location map", cfg::kWellLocationMap, mapcfg::sCfgReadMapWellLoc,
-       Join({&kMapRecordKeys, &kWellLocKeys, &kDisplayKeys})},
+       Join({&kLayerKeys, &kMapRecordKeys, &kWellLocKeys, &kDisplayKeys})},
       {"reserv", "reservoir profile map", cfg::kReservoirProfileMap, mapcfg::sCfgReadMapReserv,
-       Join({&kMapRecordKeys, &kCurveKeys, &kSectionKeys, &kRulerModelKeys})},
-      {"fence", "fence map", cfg::kFenceMap, mapcfg::sCfgReadMapFence, Join({&kMapRecordKeys, &kCurveKeys, &kSectionKeys})},
+       Join({&kLayerKeys, &kMapRecordKeys, &kCurveKeys, &kSectionKeys, &kRulerModelKeys})},
+      {"fence", "fence map", cfg::kFenceMap, mapcfg::sCfgReadMapFence,
+       Join({&kLayerKeys, &kMapRecordKeys, &kCurveKeys, &kSectionKeys})},
       {"correl", "multi-well correlation map", cfg::kMultiWellCorrelationMap, mapcfg::sCfgReadMapCorrel,
-       Join({&kMapRecordKeys, &kCurveKeys, &kSectionKeys, &kRulerModelKeys})},
+       Join({&kLayerKeys, &kMapRecordKeys, &kCurveKeys, &kSectionKeys, &kRulerModelKeys})},
+      {"single", "single-well map", cfg::kSingleWellMap, [](mapcfg::CCfgScript& s) { mapcfg::sCfgReadMapSingle(s); },
+       Join({&kLayerKeys, &kSingleWellKeys})},
   };
   return kinds;
 }
