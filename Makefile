@@ -27,6 +27,7 @@ demo: build
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table status
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table textfmts
 	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table wellloc
+	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table single
 
 # Builds and runs every test.
 test: build
