@@ -2,7 +2,6 @@
 #ifndef MAPCFG_BASE_TEXT_BYTES_H_
 #define MAPCFG_BASE_TEXT_BYTES_H_
 
-#include <cstring>
 #include <string>
 
 namespace mapcfg {
@@ -46,14 +45,6 @@ inline size_t CharLen(const std::string& s, size_t i) { return IsGbkLead(s[i]) &
 inline std::string UpperCopy(std::string s) {
   for (size_t i = 0; i < s.size(); i += CharLen(s, i)) s[i] = UpperAscii(s[i]);
   return s;
-}
-
-// `from` cut to N - 1 bytes into a fixed name field, with its terminator.
-template <size_t N>
-void CopyName(char (&to)[N], const std::string& from) {
-  const size_t n = from.size() < N - 1 ? from.size() : N - 1;
-  std::memcpy(to, from.data(), n);
-  to[n] = '\0';
 }
 
 inline void TrimRight(std::string& s) {

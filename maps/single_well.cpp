@@ -5,7 +5,7 @@
 #include "mapcfg/archive.h"
 #include "mapcfg/describe.h"
 #include "mapcfg/maps.h"
-#include "maps/key_table.h"
+#include "maps/reader_keys.h"
 #include "maps/single_well_fields.h"
 #include "store/store_state.h"
 
@@ -26,6 +26,9 @@ const KeyRow<_DJTMapProp> kMapRows[] = {
     {cfg::kRlev, Scan::kDouble, &_DJTMapProp::Rlev, Rule::kEmptyGives, 0.125},
     {cfg::kEffectiveVal1, Scan::kDouble, &_DJTMapProp::EffectiveVal1, Rule::kEmptyGives, -999.25},
     {cfg::kEffectiveVal2, Scan::kDouble, &_DJTMapProp::EffectiveVal2, Rule::kEmptyGives, -999.25},
+    {cfg::kPerforationSymbol, Scan::kText, &_DJTMapProp::PerforationSymbol},
+    {cfg::kPerforationPlug, Scan::kText, &_DJTMapProp::PerforationPlug},
+    {cfg::kPerforationUnplug, Scan::kText, &_DJTMapProp::PerforationUnplug},
 };
 
 // Whether no track of `tracks` (at `level`) or below lies deeper than
@@ -66,12 +69,10 @@ _CfgMapSingle* sCfgGetMapSinglePtr() { return &detail::StoreTable<SingleWellTabl
 
 void sCfgReadDJTMapProp(CCfgScript& script, _DJTMapProp* prop) {
   if (!prop) return;
-  const String block = cfg::Name(cfg::kSingleWellMap);
-  detail::ReadKeys(script, block, *prop, kMapRows);
-  prop->PerforationSymbol = detail::KeyValue(script, block, cfg::kPerforationSymbol);
-  prop->PerforationPlug = detail::KeyValue(script, block, cfg::kPerforationPlug);
-  prop->PerforationUnplug = detail::KeyValue(script, block, cfg::kPerforationUnplug);
+  detail::ReadKeys(script, cfg::Name(cfg::kSingleWellMap), *prop, kMapRows);
 }
+
+void detail::AppendSingleWellKeys(KeyList& keys) { AppendKeys(keys, kMapRows); }
 
 void sCfgCopyDJTMapProp(_DJTMapProp* dst, const _DJTMapProp* src) {
   if (dst && src) *dst = *src;

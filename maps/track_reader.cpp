@@ -16,11 +16,18 @@
 #include "mapcfg/maps.h"
 #include "mapcfg/script.h"
 #include "store/config_strings.h"
+#include "store/key_table.h"
 #include "store/script_fields.h"
 
 namespace mapcfg {
 
 namespace {
+
+// `from` cut to the fixed name field `to`.
+template <size_t N>
+void CopyName(char (&to)[N], const String& from) {
+  detail::CopyFixed(detail::FixedText{to, N}, from);
+}
 
 // Positions of a track value.
 constexpr int kTrackPositions = 28;
@@ -47,7 +54,7 @@ void ParseTrackValue(const String& value, _DJTTrackProp& p) {
   p.Int4 = std::min(sToInteger(at[23]), 100);
   p.Int5 = sToInteger(at[24]);
   const auto line = [&at](LINE_PROP& l, int first) {
-    detail::CopyName(l.style, at[first]);
+    CopyName(l.style, at[first]);
     l.width = sToFloat(at[first + 1]);
     l.color = sToDWord(at[first + 2]);
   };
@@ -55,10 +62,10 @@ void ParseTrackValue(const String& value, _DJTTrackProp& p) {
   line(p.Line2, 12);
   line(p.Line3, 25);
   for (FONT_PROP* font : {&p.Font1, &p.Font2, &p.Font3}) sInitFontProp(font);
-  detail::CopyName(p.Font1.faceName, at[15]);
+  CopyName(p.Font1.faceName, at[15]);
   p.Font1.height = sToFloat(at[16]);
   p.Font1.color = sToDWord(at[17]);
-  detail::CopyName(p.Font2.faceName, at[18]);
+  CopyName(p.Font2.faceName, at[18]);
   p.Font2.height = sToFloat(at[19]);
   p.Font2.color = sToDWord(at[20]);
   p.Font2.fWidth = sToFloat(at[21]);

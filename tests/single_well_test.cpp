@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <mapcfg/mapcfg.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <map>
@@ -232,6 +233,38 @@ TEST(SingleWell, TemplatesListedInEitherLanguageAndFound) {
     EXPECT_EQ(found, (std::vector<std::string>{"1 evaluation[0] Depth", "1 Composite[0] Depth",
                                                "1 Logs[1] " + s(0),
                                                "1 " + s(kSingleWellTemplate) + "[4] Missing"}));
+  }
+}
+
+// The keys of "Single Well Map" that change the single-well map are exactly
+// those sDescribeMapKindKeys lists (the tool's unknown-key check trusts it).
+TEST(SingleWell, KeyListIsTheKeysTheReadersTake) {
+  mapcfg_test::StoreGuard guard;
+  mapcfg_test::TempDir dir;
+  const auto folded = mapcfg_test::Folded;
+  for (char lang : {0, 1}) {
+    *sGetCfgLang() = lang;
+    const String kind = sGetCfgStr(lang, kSingleWellMap);
+    std::vector<String> listed;
+    for (int row : sDescribeMapKindKeys(kind)) listed.push_back(folded(sGetCfgStr(lang, row)));
+    EXPECT_EQ(listed.size(), 14u);
+    const auto read = [&](const String& row) {
+      sCfgClearPlate();
+      CCfgScript script;
+      Open(script, dir, {{kind, {{row, "2"}}}});
+      sCfgReadMapSingle(script);
+      std::string values;
+      for (const FieldText& f : sDescribeMapKind(kind)) values += f.value + ";";
+      return values;
+    };
+    const std::string base = read("no such key");
+    for (int row = 0; row < kCfgStrCount; ++row) {
+      const String key = sGetCfgStr(lang, row);
+      if (!mapcfg_test::CanBeKey(key)) continue;
+      const bool taken = read(key) != base;
+      const bool in_list = std::find(listed.begin(), listed.end(), folded(key)) != listed.end();
+      EXPECT_EQ(taken, in_list) << "language " << int(lang) << ", key \"" << key << "\" (row " << row << ")";
+    }
   }
 }
 
