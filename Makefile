@@ -29,6 +29,7 @@ demo: build
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table status
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table textfmts
 	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table wellloc
+	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table single
 	$(BUILD)/tools/mapcfg pack examples -o $(BUILD)/liuhe.pack
 	$(BUILD)/tools/mapcfg show --archive $(BUILD)/liuhe.pack --table correl | head -12
 	$(BUILD)/tools/mapcfg diff --layout examples/en examples/zh

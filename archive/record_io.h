@@ -42,9 +42,11 @@
 //   v.Columns(name, a, b, ...)   PutLong(a.size()), then row i of every
 //                                array in turn (any number of arrays; a
 //                                RecordArray cell is its record)
-//   v.Nested(name, records)      a RecordArray of records that hold arrays of
-//                                their own kind (trees); readers stop with
-//                                message 539 past kMaxNestedLevels levels
+//
+// A record that holds records of its own type (a tree) brackets its fields
+// with v.EnterNested() and v.LeaveNested(): readers and writers fail with
+// error 539 on a record nested deeper than kMaxRecordNesting, and no visitor
+// goes deeper.
 //
 // Fields functions are found by argument-dependent lookup, so they live in
 // namespace mapcfg; they are not exported.
@@ -70,10 +72,24 @@ namespace detail {
 // current layout.
 constexpr uint32_t kCurrentVersion = 0xFFFFFFFFu;
 
-// Levels of a tree read through Nested: the records at the top of what a
-// reader is asked for are level 1. Enough for any real template, low enough
-// that the recursion cannot exhaust the stack (also under the sanitizers).
-constexpr int kMaxNestedLevels = 256;
+// Levels of records nested in records of their own type that any visitor
+// follows; the archive's trees (single-well tracks) are at most this deep.
+constexpr int kMaxRecordNesting = 256;
+
+// The level count of a visitor: Enter is false, without counting, for a
+// record that would lie deeper than kMaxRecordNesting.
+class Nesting {
+ public:
+  bool Enter() {
+    if (depth_ >= kMaxRecordNesting) return false;
+    ++depth_;
+    return true;
+  }
+  void Leave() { --depth_; }
+
+ private:
+  int depth_ = 0;
+};
 
 template <class T>
 struct IsRecordArray : std::false_type {};
@@ -94,6 +110,15 @@ class RecordWriter {
   explicit RecordWriter(CFFArchive& a) : a_(a) {}
   bool ok() const { return true; }
   uint32_t version() const { return kCurrentVersion; }
+  // A record past kMaxRecordNesting levels is left out and the write
+  // fails (PutRecord sets error 539): what was written cannot be read back.
+  bool EnterNested() {
+    if (nesting_.Enter()) return true;
+    too_deep_ = true;
+    return false;
+  }
+  void LeaveNested() { nesting_.Leave(); }
+  bool too_deep() const { return too_deep_; }
 
   void operator()(const char*, const String& v) { a_.PutString(v.c_str()); }
   template <size_t N>
@@ -119,10 +144,6 @@ class RecordWriter {
   void operator()(const char*, const RecordArray<R>& records) {
     a_.PutLong(static_cast<int32_t>(records.size()));
     for (const std::unique_ptr<R>& r : records) Record(*r);
-  }
-  template <class R>
-  void Nested(const char* name, const RecordArray<R>& records) {
-    (*this)(name, records);
   }
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char*, const R& record) {
@@ -172,6 +193,8 @@ class RecordWriter {
     }
   }
   CFFArchive& a_;
+  Nesting nesting_;
+  bool too_deep_ = false;
 };
 
 class RecordReader {
@@ -181,6 +204,15 @@ class RecordReader {
   // False from the first failed read on; every later field is left alone.
   bool ok() const { return ok_; }
   uint32_t version() const { return version_; }
+  // False, with error 539, for a record past kMaxRecordNesting levels.
+  bool EnterNested() {
+    if (!ok_) return false;
+    if (nesting_.Enter()) return true;
+    ArchiveCore::Fail(a_, kMsgLibraryFailure);
+    ok_ = false;
+    return false;
+  }
+  void LeaveNested() { nesting_.Leave(); }
 
   void operator()(const char*, String& v) {
     if (ok_) Check(v = a_.GetString());
@@ -220,13 +252,7 @@ class RecordReader {
   // stream can hold allocates nothing for it.
   template <class R>
   void operator()(const char*, RecordArray<R>& records) {
-    ReadRecords(records, false);
-  }
-  // As above, one level deeper: a non-empty array at level kMaxNestedLevels
-  // sets error 539 and stops the reading.
-  template <class R>
-  void Nested(const char*, RecordArray<R>& records) {
-    ReadRecords(records, true);
+    ReadRecords(records);
   }
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char*, R& record) {
@@ -263,22 +289,14 @@ class RecordReader {
 
  private:
   template <class R>
-  void ReadRecords(RecordArray<R>& records, bool nested) {
+  void ReadRecords(RecordArray<R>& records) {
     int32_t count = 0;
     Scalar(count, &CFFArchive::GetLong);
-    if (!ok_ || count <= 0) return;
-    if (nested && depth_ + 1 >= kMaxNestedLevels) {
-      ArchiveCore::Fail(a_, kMsgLibraryFailure);
-      ok_ = false;
-      return;
-    }
-    depth_ += nested ? 1 : 0;
     for (int32_t i = 0; ok_ && i < count; ++i) {
       auto record = std::make_unique<R>();
       Fields(*this, *record);
       if (ok_) records.push_back(std::move(record));
     }
-    depth_ -= nested ? 1 : 0;
   }
   template <class T>
   bool Append(const char* name, std::vector<T>& to) {
@@ -306,7 +324,7 @@ class RecordReader {
   CFFArchive& a_;
   uint32_t version_;
   bool ok_ = true;
-  int depth_ = 0;  // Nested levels entered
+  Nesting nesting_;
 };
 
 // Named texts of the fields: "line.width", "texts1[2]", "props[0].name".
@@ -316,6 +334,8 @@ class RecordDescriber {
   bool ok() const { return true; }
   uint32_t version() const { return kCurrentVersion; }
   FieldTexts& texts() { return texts_; }
+  bool EnterNested() { return nesting_.Enter(); }
+  void LeaveNested() { nesting_.Leave(); }
 
   void operator()(const char* name, const String& v) { Add(name, v, FieldText::kText); }
   template <size_t N>
@@ -347,10 +367,6 @@ class RecordDescriber {
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char* name, const R& record) {
     Sub(name, record);
-  }
-  template <class R>
-  void Nested(const char* name, const RecordArray<R>& records) {
-    (*this)(name, records);
   }
   void Block(const char* name, const uint32_t* words, uint32_t n) { Items(name, words, n); }
   template <class A, class B, class C>
@@ -388,14 +404,22 @@ class RecordDescriber {
   }
   std::string prefix_;
   FieldTexts texts_;
+  Nesting nesting_;
 };
 
 // The archive operations of a record type, for its CFFArchive members.
+// 1, or 0 with error 539 when the writer met a tree too deep to read back.
+inline int WriteDone(CFFArchive& a, const RecordWriter& w) {
+  if (!w.too_deep()) return 1;
+  ArchiveCore::Fail(a, kMsgLibraryFailure);
+  return 0;
+}
+
 template <class R>
 int PutRecord(CFFArchive& a, const R& record) {
   RecordWriter w(a);
   w(nullptr, record);
-  return 1;
+  return WriteDone(a, w);
 }
 
 template <class R>
@@ -418,7 +442,7 @@ int PutRecordArrays(CFFArchive& a, const RecordArray<R>& first, const RecordArra
     if (second) w(nullptr, *second->at(i));
     if (third) w(nullptr, *third->at(i));
   }
-  return 1;
+  return WriteDone(a, w);
 }
 
 // Get...Array: the count, then for each index a new record appended to

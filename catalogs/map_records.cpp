@@ -195,9 +195,13 @@ void sCfgReadCurveParms(CCfgScript& script, const String& block, RecordArray<_Cu
 
 void sCfgClearCurveParms(RecordArray<_CurveParm>& parms) { parms.clear(); }
 
-void detail::AppendMapRecordKeys(KeyList& keys) {
+void detail::AppendLayerKeys(KeyList& keys) {
   AppendKeys(keys, kLayerRows);
   AppendKeys(keys, kSpaceRows);
+}
+
+void detail::AppendMapRecordKeys(KeyList& keys) {
+  AppendLayerKeys(keys);
   AppendKeys(keys, kFrameRows);
   AppendKeys(keys, kLegendRows);
   AppendKeys(keys, kScaleRows);

@@ -55,6 +55,7 @@ const Section kSections[] = {
     {"reserv", sCfgWriteMapReserv, Reader(sCfgReadMapReserv), DescribeKind<cfg::kReservoirProfileMap>},
     {"fence", sCfgWriteMapFence, Reader(sCfgReadMapFence), DescribeKind<cfg::kFenceMap>},
     {"correl", sCfgWriteMapCorrel, Reader(sCfgReadMapCorrel), DescribeKind<cfg::kMultiWellCorrelationMap>},
+    {"single", sCfgWriteMapSingle, Reader(sCfgReadMapSingle), DescribeKind<cfg::kSingleWellMap>},
     {"planeshape", sCfgWritePlaneShapes, Reader(sCfgReadPlaneShapes), sDescribePlaneShapes},
     {"migrate", sCfgWriteDataMigrate, Reader(sCfgReadDataMigrate), sDescribeDataMigrate},
     {"statis", WriteStatis, ReadStatis, DescribeStatis},
@@ -69,7 +70,8 @@ void sCfgReadAll(CCfgScript& script) {
         sCfgReadLithProps, sCfgReadColors, sCfgReadPrevColor, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
         sCfgReadGZFHs, sCfgReadTextFmts, sCfgReadDataSrcs, sCfgReadLabelCrvs, sCfgIsoLineProp,
         ScriptReader(sCfgReadMapWellLoc), ScriptReader(sCfgReadMapReserv), ScriptReader(sCfgReadMapFence),
-        ScriptReader(sCfgReadMapCorrel), ScriptReader(sCfgReadPlaneShapes), ScriptReader(sCfgReadDataMigrate)})
+        ScriptReader(sCfgReadMapCorrel), ScriptReader(sCfgReadPlaneShapes), ScriptReader(sCfgReadDataMigrate),
+        ScriptReader(sCfgReadMapSingle)})
     read(script);
 }
 

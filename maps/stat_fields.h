@@ -33,6 +33,8 @@ void Fields(V& v, _CfgStatWhere& r) {
 
 template <class V>
 void Fields(V& v, _CfgStatMeta& r) {
+  // An item lies one level below the item whose child array holds it.
+  if (!v.EnterNested()) return;
   v("name", r.name);
   v("type", r.type);
   v("dbls", r.dbls);
@@ -49,12 +51,13 @@ void Fields(V& v, _CfgStatMeta& r) {
   v("flag", r.flag);
   v("byte2", r.byte2);
   v("dbl", r.dbl);
-  v.Nested("children", r.children);
+  v("children", r.children);
   v("text1", r.text1);
   v("texts", r.texts);
   v("text2", r.text2);
   v("text3", r.text3);
   v.Columns("subItems", r.subInts, r.subTexts1, r.subTexts2, r.subTexts3, r.subDbls, r.subBytes);
+  v.LeaveNested();
 }
 
 template <class V>

@@ -218,6 +218,57 @@ Form Display(T start, int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*pu
 }
 const _JWTAutoParm kAutoStart{7, "start", -7.0f, 7, "start", 7, 7};
 const _JWTMapProp kMapStart{-7.0f, -7.0f, -7.0f, -7.0f, -7.0f};
+const _DJTMapProp kDJTMapStart{-7, -7, -7, "start", "start", "start"};
+const _DJTTrackProp kTrackPropStart{"start",    "start",    -7,         -7,         -7,         7,          -7,
+                                    -7,         -7,         -7,         -7,         kLineStart, kLineStart, kLineStart,
+                                    kFontStart, kFontStart, kFontStart, -7,         -7,         -7};
+// A track tree as name:left..right/second line's width(curve codes){children}.
+std::string TrackText(const _DJTTrack& t) {
+  std::string s = Text(t.Prop.Name) + ":" + Text(t.Prop.Left) + ".." + Text(t.Prop.Right) + "/" +
+                  Text(t.Prop.Line2.width) + "(";
+  for (const std::unique_ptr<_CurveParm>& c : t.Curves) s += Text(c->Code) + (c == t.Curves.back() ? "" : ";");
+  s += "){";
+  for (const std::unique_ptr<_DJTTrack>& k : t.Children) s += TrackText(*k) + (k == t.Children.back() ? "" : ",");
+  return s + "}";
+}
+std::string TracksText(const RecordArray<_DJTTrack>& tracks) {
+  std::string s;
+  for (const std::unique_ptr<_DJTTrack>& t : tracks) s += "[" + TrackText(*t) + "]";
+  return s;
+}
+std::string TemplText(const _DJTTempl& t) {
+  std::string s = Join(t.Name, t.Value) + "," + Join(t.Dbls[0], t.Dbls[1], t.Dbls[2], t.Dbls[3], t.Dbls[4]) +
+                  Fields(t.Line) + Fields(t.Font);
+  for (const String& text : t.Texts) s += "," + Text(text);
+  return s + "," + TracksText(t.Tracks);
+}
+// Tracks and templates read with `version` into empty records.
+Form DJTTrack(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    _DJTTrack t;
+    const int ok = in.GetDJTTrack(&t, version);
+    if (out) out->PutDJTTrack(&t);
+    return Text(ok) + "," + TrackText(t);
+  };
+}
+Form DJTTracks(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<_DJTTrack> tracks;
+    const int ok = in.GetDJTTrackArray(tracks, version);
+    if (out) out->PutDJTTrackArray(tracks);
+    return Text(ok) + TracksText(tracks);
+  };
+}
+Form DJTTempls(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<_DJTTempl> templs;
+    const int ok = in.GetDJTTemplArray(templs, version);
+    if (out) out->PutDJTTemplArray(templs);
+    std::string s = Text(ok);
+    for (const std::unique_ptr<_DJTTempl>& t : templs) s += "[" + TemplText(*t) + "]";
+    return s;
+  };
+}
 const _StatusProp kStatusStart{"start", 7, -7, 7};
 const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
 const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
@@ -323,6 +374,13 @@ const std::map<std::string, Form> kForms = {
     {"statmembers", RegistryArray(&CFFArchive::GetStatMemberArray, &CFFArchive::PutStatMemberArray)},
     {"statmetas", RegistryArray(&CFFArchive::GetStatMetalArray, &CFFArchive::PutStatMetalArray)},
     {"stattempls", RegistryArray(&CFFArchive::GetStatTemplArray, &CFFArchive::PutStatTemplArray)},
+    {"djtmap", Catalog(kDJTMapStart, &CFFArchive::GetDJTMapProp, &CFFArchive::PutDJTMapProp)},
+    {"djtprop", Section(kTrackPropStart, &CFFArchive::GetDJTTrackProp, &CFFArchive::PutDJTTrackProp, 0x02017519)},
+    {"djtprop_old", Section(kTrackPropStart, &CFFArchive::GetDJTTrackProp, &CFFArchive::PutDJTTrackProp, 0x02017518)},
+    {"djttrack", DJTTrack(kMapRecordsVersion1)},
+    {"djttracks", DJTTracks(kMapRecordsVersion1)},
+    {"djttempls", DJTTempls(kMapRecordsVersion1)},
+    {"djttempls_old", DJTTempls(0x02017518)},
 };
 
 // True when exactly `n` bytes of the stream have been read.

@@ -2,7 +2,8 @@
 # unknown-key report) name exactly the keys those readers name. (The map
 # kinds' keys come from the library itself: sDescribeMapKindKeys.)
 #   -DSOURCE_DIR=<project folder>
-set(not_keys kWellLocationMap kReservoirProfileMap kFenceMap kMultiWellCorrelationMap kCurve kFillingCurve)
+set(not_keys kWellLocationMap kReservoirProfileMap kFenceMap kMultiWellCorrelationMap kSingleWellMap kCurve
+             kFillingCurve)
 function(keys_of out)
   set(all)
   foreach(file IN LISTS ARGN)

@@ -14,6 +14,7 @@
 #include "input.h"
 #include "map_kinds.h"
 #include "show_templates.h"
+#include "store/config_strings.h"
 
 namespace mapcfg_tool {
 
@@ -87,6 +88,33 @@ void Listing(const Printer& p, const char* table, const char* what, const FieldT
   for (const FieldText& f : fields) std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
 }
 
+// A track and, indented below it, its curves and child tracks.
+void PrintTrack(const Printer& p, const mapcfg::_DJTTrack& t, int indent) {
+  const std::string pad(static_cast<size_t>(indent) * 2, ' ');
+  const mapcfg::_DJTTrackProp& q = t.Prop;
+  std::printf("%strack %s (%s): %s .. %s, width %s\n", pad.c_str(), p.Quoted(q.Name).c_str(), p.Quoted(q.Title).c_str(),
+              mapcfg::sToString(q.Left).c_str(), mapcfg::sToString(q.Right).c_str(), mapcfg::sToString(q.Width).c_str());
+  for (const auto& c : t.Curves)
+    std::printf("%s  curve %s (%s): %s .. %s, line %s %s\n", pad.c_str(), p.Quoted(c->Code).c_str(),
+                p.Quoted(c->Name).c_str(), mapcfg::sToString(c->Prop.LeftValue).c_str(),
+                mapcfg::sToString(c->Prop.RightValue).c_str(), mapcfg::sToString(c->Prop.Line.width).c_str(),
+                p.Color(c->Prop.Line.color).c_str());
+  for (const auto& child : t.Children) PrintTrack(p, *child, indent + 1);
+}
+
+// The single-well map: its properties, then each template as a tree.
+void PrintSingleWell(const Printer& p, const MapKind& kind) {
+  const mapcfg::_CfgMapSingle& registry = *mapcfg::sCfgGetMapSinglePtr();
+  Heading(kind.table, "single-well templates", registry.Templs.size());
+  for (const FieldText& f : mapcfg::sDescribeMapKind(mapcfg::sGetCfgStr(*mapcfg::sGetCfgLang(), kind.name_row)))
+    if (f.name.compare(0, 6, "templs") != 0 && f.name.compare(0, 5, "names") != 0)
+      std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
+  for (const auto& templ : registry.Templs) {
+    std::printf("  template %s\n", p.Quoted(templ->Name).c_str());
+    for (const auto& track : templ->Tracks) PrintTrack(p, *track, 2);
+  }
+}
+
 struct Table {
   const char* name;
   std::function<void(const Printer&)> print;
@@ -148,6 +176,7 @@ const std::vector<Table>& Tables() {
     std::vector<Table> all = tables;
     for (const MapKind& kind : MapKinds())
       all.push_back({kind.table, [&kind](const Printer& p) {
+                       if (kind.name_row == mapcfg::cfg::kSingleWellMap) return PrintSingleWell(p, kind);
                        Listing(p, kind.table, kind.what, sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), kind.name_row)));
                      }});
     for (const TemplateTable& t : TemplateTables())

@@ -35,7 +35,7 @@ const Command kCommands[] = {
      "configuration strings (block and key names) by index, English and Chinese side by side",
      RunStrings},
     {"show", "[FILE...]", 0, -1,
-     {{"--table", "NAME", "only that table (sysparam, status, lith, colors, ..., wellloc, reserv, fence, correl)"},
+     {{"--table", "NAME", "only that table (sysparam, status, lith, colors, ..., wellloc, reserv, fence, correl, single)"},
       {"--lang", "en|zh", "read the scripts' blocks in that language (default: the one they use)"},
       {"--archive", "FILE", "load a whole-store archive (sCfgReadMain) instead of scripts"},
       {"--version", "N", "the archive version to read it with (default: the current layout)"},

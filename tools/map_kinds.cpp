@@ -1,6 +1,6 @@
-// The four map kinds, with the keys the library's readers of each look up,
-// and the template blocks with the keys their readers name (checked against
-// the readers' sources by tests/map_keys.cmake).
+// The map kinds (the single-well map last), with the keys the library's
+// readers of each look up, and the template blocks with the keys their
+// readers name (checked against the readers' sources by tests/map_keys.cmake).
 #include "map_kinds.h"
 
 #include "commands.h"
@@ -39,6 +39,8 @@ const std::vector<MapKind>& MapKinds() {
       {"fence", "fence map", cfg::kFenceMap, mapcfg::sCfgReadMapFence, ReaderKeys(cfg::kFenceMap)},
       {"correl", "multi-well correlation map", cfg::kMultiWellCorrelationMap, mapcfg::sCfgReadMapCorrel,
        ReaderKeys(cfg::kMultiWellCorrelationMap)},
+      {"single", "single-well map", cfg::kSingleWellMap, [](mapcfg::CCfgScript& s) { mapcfg::sCfgReadMapSingle(s); },
+       ReaderKeys(cfg::kSingleWellMap)},
   };
   return kinds;
 }

@@ -71,6 +71,11 @@ struct _MigraItem;
 struct _StatTempl;
 struct _StatMeta;
 struct _StatMember;
+// Single-well charts (mapcfg/maps.h).
+struct _DJTMapProp;
+struct _DJTTrackProp;
+struct _DJTTrack;
+struct _DJTTempl;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -321,6 +326,23 @@ class MAPCFG_EXPORT CFFArchive {
   int GetStatMetalArray(RecordArray<_StatMeta>& metas);
   int PutStatMemberArray(const RecordArray<_StatMember>& members);
   int GetStatMemberArray(RecordArray<_StatMember>& members);
+  // Single-well charts. A track is its properties, its curves and its
+  // children; the Get forms fail with error 539 on a track deeper than
+  // kMaxTrackDepth and the Put forms write nothing for a tree deeper than
+  // that (error 539, 0).
+  int PutDJTMapProp(const _DJTMapProp* prop);
+  int GetDJTMapProp(_DJTMapProp* prop);
+  int PutDJTTrackProp(const _DJTTrackProp* prop);
+  int GetDJTTrackProp(_DJTTrackProp* prop, uint32_t version);
+  int PutDJTTrack(const _DJTTrack* track);
+  int GetDJTTrack(_DJTTrack* track, uint32_t version);
+  int PutDJTTempl(const _DJTTempl* templ);
+  int GetDJTTempl(_DJTTempl* templ, uint32_t version);
+  // PutLong(count), then each record; the readers append.
+  int PutDJTTrackArray(const RecordArray<_DJTTrack>& tracks);
+  int GetDJTTrackArray(RecordArray<_DJTTrack>& tracks, uint32_t version);
+  int PutDJTTemplArray(const RecordArray<_DJTTempl>& templs);
+  int GetDJTTemplArray(RecordArray<_DJTTempl>& templs, uint32_t version);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

@@ -63,6 +63,9 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatWhere& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatMeta& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatTempl& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _StatMember& record);
+// Single-well chart records (a track's curves and children are not listed).
+MAPCFG_EXPORT FieldTexts sDescribe(const _DJTMapProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _DJTTrackProp& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();

@@ -171,6 +171,145 @@ MAPCFG_EXPORT void sCfgReadJWTMapProp(CCfgScript& script, _JWTMapProp* prop);
 MAPCFG_EXPORT void sCfgCopyJWTAutoParm(_JWTAutoParm* dst, const _JWTAutoParm* src);
 MAPCFG_EXPORT void sCfgCopyJWTMapProp(_JWTMapProp* dst, const _JWTMapProp* src);
 
+// --- Single-well charts -----------------------------------------------------------
+// A single-well chart is drawn from a template: a tree of tracks, each with
+// its display properties, the curves drawn in it and its own child tracks.
+// The registry keeps the templates by name; records of the tree own their
+// children (RecordArray), so a copy of a tree is always deep.
+
+// Chart-wide curve properties, from the block "Single Well Map" ("单井图").
+// Archive: Double Rlev, EffectiveVal1, EffectiveVal2, String
+// PerforationSymbol; the plugged and unplugged symbols are not archived.
+struct _DJTMapProp {
+  double Rlev = 0.0;           // "Rlev": curve sampling interval; 0.125 when empty
+  double EffectiveVal1 = 0.0;  // "EffectiveVal1", "EffectiveVal2": valid-value limits;
+  double EffectiveVal2 = 0.0;  //   -999.25 when empty
+  String PerforationSymbol;    // "Perforation Symbol"
+  String PerforationPlug;      // "PerforationPlug"
+  String PerforationUnplug;    // "PerforationUnplug"
+};
+
+// One track's display. In a script it is the value of the key that names
+// the track: 28 comma-separated positions (doc/records.md). Archive: String
+// Name, Title, Double Left, Right, Width, Byte Flags, Long Int1..Int5, the
+// three lines, the three fonts, Double Dbl1..Dbl3.
+struct _DJTTrackProp {
+  String Name;             // 0; "\r\n" and "\n" written literally are line breaks
+  String Title;            // 1; as Name
+  double Left = 0.0;       // 2
+  double Right = 0.0;      // 3; Left + 1 when equal to Left (within 5e-7)
+  double Width = 0.0;      // 4; Right - Left when not above 0
+  uint8_t Flags = 0;       // 5 (hexadecimal)
+  int32_t Int1 = 0;        // 6; at most 100
+  int32_t Int2 = 0;        // 7; 1 to 5
+  int32_t Int3 = 0;        // 8
+  int32_t Int4 = 0;        // 23; at most 100
+  int32_t Int5 = 0;        // 24
+  LINE_PROP Line1{};       // style 9, width 10, colour 11 (hexadecimal)
+  LINE_PROP Line2{};       // 12, 13, 14
+  LINE_PROP Line3{};       // 25, 26, 27
+  FONT_PROP Font1{};       // face 15, height 16, colour 17 (hexadecimal)
+  FONT_PROP Font2{};       // face 18, height 19, colour 20 (hexadecimal), fWidth 21
+  FONT_PROP Font3{};       // Font2's face, height 22
+  double Dbl1 = 0.0, Dbl2 = 0.0, Dbl3 = 0.0;  // not in scripts; archived
+};
+
+// A track: its display, its curves (owned) and its child tracks (owned).
+// Archive: the _DJTTrackProp, the curve array (PutCurveParmArray), then the
+// child array as Long count + each track.
+struct _DJTTrack {
+  _DJTTrackProp Prop;
+  RecordArray<_CurveParm> Curves;
+  RecordArray<_DJTTrack> Children;
+};
+
+// A template. Archive: String Name, Long Value, Double Dbls[0..4], LINE_PROP
+// Line, FONT_PROP Font, Texts (PutStringArray), then the track array.
+struct _DJTTempl {
+  String Name;
+  int32_t Value = 0;
+  double Dbls[5] = {};
+  LINE_PROP Line{};
+  FONT_PROP Font{};
+  StringArray Texts;
+  RecordArray<_DJTTrack> Tracks;  // top-level tracks
+};
+
+// The registry: the template names and, at the same index, the templates.
+struct _CfgMapSingle {
+  StringArray Names;
+  RecordArray<_DJTTempl> Templs;
+};
+
+// Depth of a track tree, top-level tracks being level 1, beyond which no
+// reader goes: the script reader reads no children of a track at this level
+// and the archive readers fail with error 539 on a track below it. Deep
+// enough for any chart, shallow enough for a small stack.
+constexpr int kMaxTrackDepth = 256;
+// Tracks one script read creates at most (sCfgReadDJTTrack, or every
+// template of sCfgReadMapSingle together); what lies beyond is not read.
+constexpr int kMaxTrackCount = 65536;
+// Key rows one script read visits at most: each track visits the rows of its
+// block once (a block read by many tracks counts for each). Bounds the
+// curves a fan-out of blocks can copy.
+constexpr int kMaxTrackRows = 1 << 18;
+
+// The single instances, owned by the store; never null.
+MAPCFG_EXPORT _DJTMapProp* sCfgGetDJTMapPropPtr();
+MAPCFG_EXPORT _CfgMapSingle* sCfgGetMapSinglePtr();
+// Rlev, the effective values and the perforation symbols of "Single Well
+// Map", with the rules of the section maps' keys of the same names.
+MAPCFG_EXPORT void sCfgReadDJTMapProp(CCfgScript& script, _DJTMapProp* prop);
+// Field copies (destination first).
+MAPCFG_EXPORT void sCfgCopyDJTMapProp(_DJTMapProp* dst, const _DJTMapProp* src);
+MAPCFG_EXPORT void sCfgCopyDJTTrackProp(_DJTTrackProp* dst, const _DJTTrackProp* src);
+// Reads `track` from `value` (the 28 positions), appends the curves of
+// `block` (sCfgReadCurveParms with `arg`) and, for every key of `block` in
+// key order other than "Curve" ("曲线", case ignored), appends a child read
+// the same way from the block named by the key and the key's value. Stops at
+// kMaxTrackDepth, kMaxTrackCount and kMaxTrackRows.
+MAPCFG_EXPORT void sCfgReadDJTTrack(CCfgScript& script, const String& block, const String& value, _DJTTrack* track,
+                                    float arg);
+// The first template of the registry whose name equals `name` ignoring
+// ASCII case, or null. Owned by the registry.
+MAPCFG_EXPORT _DJTTempl* sCfgFindDJTTempl(const char* name);
+// Free a track or a template and everything it owns. Pass a pointer no
+// unique_ptr owns any more (release() it first); null is ignored.
+MAPCFG_EXPORT void sCfgDelDJTTrack(_DJTTrack* track);
+MAPCFG_EXPORT void sCfgDelDJTTempl(_DJTTempl* templ);
+// Appends the templates the script lists (block "SingleWellTemplate", see
+// doc/records.md) to the registry, after reading the layers, the spacing and
+// the chart properties from "Single Well Map".
+MAPCFG_EXPORT void sCfgReadMapSingle(CCfgScript& script);
+// The single-well stream: Layers, HVSpace (as PutDblPoint), DJTMapProp, the
+// registry's names (PutStringArray), then its templates (template array).
+// The reader appends names and templates to the registry. Both return the
+// archive's error text, "" on success; a tree deeper than kMaxTrackDepth is
+// not written (error 539).
+MAPCFG_EXPORT String sCfgWriteMapSingle(CFFArchive& archive);
+MAPCFG_EXPORT String sCfgReadMapSingle(CFFArchive& archive, uint32_t version);
+
+// What a linter may want to know about the track trees of a script, as
+// sCfgReadMapSingle would read them in the current language. Each finding
+// names the block and the index of the key concerned (the key of block
+// "SingleWellTemplate" for a template's own block).
+struct DJTTreeFinding {
+  enum Kind : char {
+    kNamesAncestor,  // the key names its own block or an ancestor's
+    kNoBlock,        // no block has the name of the key's track (or template)
+    kTooDeep,        // the key's track would be deeper than kMaxTrackDepth: not read
+    kTooMany,        // the read stops at this key: kMaxTrackCount or kMaxTrackRows reached
+  };
+  Kind kind;
+  String block;   // as the script writes it
+  int key;        // index of the key in `block`
+  String name;    // the key's track (or template) block name
+  int depth;      // the track's level (1 top-level), 0 for a template
+};
+// Each finding once, in the order the reader meets them. The caller owns
+// the result; the script is not changed.
+MAPCFG_EXPORT std::vector<DJTTreeFinding> sCfgCheckMapSingle(const CCfgScript& script);
+
 // --- Whole map kinds -------------------------------------------------------------
 // Each of the four kinds (well location map and the three section maps) has
 // its own layers, spacing, frame, legend, scale and curve parameters besides
