@@ -44,10 +44,10 @@ std::string Shape(const String& value) {
 }
 
 TEST(Examples, ChineseScriptIsTheGbkFormOfItsSource) {
-  const std::string source = mapcfg_test::ReadAll(MAPCFG_EXAMPLES "/zh/field.utf8.cfg");
+  const std::string source = mapcfg_test::ReadAll(MAPCFG_EXAMPLES "/zh.utf8/field.cfg");
   ASSERT_FALSE(source.empty());
   EXPECT_EQ(mapcfg_test::ReadAll(kZh), mapcfg_test::Iconv("GBK", "UTF-8", source))
-      << "remake it: iconv -f UTF-8 -t GBK examples/zh/field.utf8.cfg > examples/zh/field.cfg";
+      << "remake it: iconv -f UTF-8 -t GBK examples/zh.utf8/field.cfg > examples/zh/field.cfg";
 }
 
 TEST(Examples, TwinsHoldTheSameBlocksAndRowsAndReadAlike) {
