@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/code_pages.h"
 #include "base/native_path.h"
 #include "base/text_bytes.h"
 #include "mapcfg/utils.h"
@@ -21,6 +22,17 @@ size_t LastSplit(const String& path) {
 }
 
 using detail::UpperAscii;
+
+// Index of the last separator of a pattern that names a file, or npos: as
+// LastSplit, except that in a GBK pattern the second byte of a character
+// (0x5C in 0x9C 0x5C) is no separator. UTF-8 has no such bytes.
+size_t LastPatternSplit(const String& pat) {
+  if (detail::IsUtf8(pat)) return LastSplit(pat);
+  size_t last = String::npos;
+  for (size_t i = 0; i < pat.size(); i += detail::CharLen(pat, i))
+    if (IsSep(pat[i]) || pat[i] == ':') last = i;
+  return last;
+}
 
 // Wildcard match of a file name: "*" any run, "?" any one byte; ASCII case is
 // ignored, as the suite's file system does.
@@ -68,7 +80,7 @@ std::vector<Entry> Search(const char* pattern) {
   std::vector<Entry> found;
   if (!pattern || !*pattern) return found;
   const String pat = pattern;
-  const size_t split = LastSplit(pat);
+  const size_t split = LastPatternSplit(pat);
   const String name = split == String::npos ? pat : pat.substr(split + 1);
   if (name.find_first_of("*?") == String::npos) {
     const int kind = name.empty() ? -1 : Kind(detail::ResolvePath(pat));

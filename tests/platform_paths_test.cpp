@@ -21,6 +21,7 @@ using namespace mapcfg;
 // second byte is the byte of "\".
 const std::string kShallowUtf8 = "\xe6\xb7\xba\xe5\xb1\xa4";
 const std::string kShallowGbk = "\x9c\x5c\x8c\xd3";
+const std::string kShallowFirstUtf8 = kShallowUtf8.substr(0, 3), kShallowFirstGbk = kShallowGbk.substr(0, 2);
 
 // The folder `name` below `base` as the file system holds it: the bytes
 // themselves on POSIX; on Windows, where names are UTF-16, that of the text.
@@ -68,6 +69,10 @@ TEST(PlatformPaths, GbkAndUtf8SpellingsOfOneFolder) {
     EXPECT_EQ(script.GetKeyVal("Zones", "Top"), "1200");
 
     EXPECT_EQ(sIsDirExist(given.c_str()), 1);
+    // A folder whose name ends in the 0x5C of a GBK character.
+    ASSERT_TRUE(fs::create_directory(OnDisk(dir.path(), row.disk_gbk ? kShallowFirstGbk : kShallowFirstUtf8, row.disk_gbk)));
+    const std::string first = dir.path() + "\\" + (row.given_gbk ? kShallowFirstGbk : kShallowFirstUtf8);
+    EXPECT_EQ(sIsDirExist(first.c_str()), 1);
     EXPECT_EQ(sIsFileExist((given + "\\zones.cfg").c_str()), 1);
     StringArray names;
     EXPECT_EQ(sGetFiles((given + "\\*.cfg").c_str(), &names), 1);
@@ -80,7 +85,7 @@ TEST(PlatformPaths, GbkAndUtf8SpellingsOfOneFolder) {
     sWriteConfig();
     EXPECT_EQ(FirstLine(folder / "Config" / "Vantrope.cfg"), "Current_Cfg_Templ = Shelf\r");
     // Written where it was read, not into a second folder of the other name.
-    EXPECT_EQ(std::distance(fs::directory_iterator(dir.path()), fs::directory_iterator()), 2);
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir.path()), fs::directory_iterator()), 3);
   }
 }
 
