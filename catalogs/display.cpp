@@ -4,107 +4,90 @@
 #include <cstring>
 
 #include "catalogs/display_fields.h"
+#include "catalogs/reader_keys.h"
 #include "mapcfg/archive.h"
 #include "mapcfg/catalogs.h"
 #include "mapcfg/describe.h"
 #include "mapcfg/utils.h"
 #include "store/config_strings.h"
+#include "store/key_table.h"
 #include "store/store_state.h"
 
 namespace mapcfg {
 
 namespace {
 
+using detail::At;
+using detail::FixedAt;
+using detail::KeyRow;
+using detail::Rule;
+using detail::Scan;
+
 // Line width when the width key is empty.
-constexpr float kDefaultLineWidth = 0.5f;
+constexpr double kDefaultLineWidth = 0.5;
 
-// The keys of a display record, where their values go and the defaults of
-// the mode bytes. Empty values give the defaults; the mode bytes are read
-// with sToInteger, widths with sToFloat, colours with sToDWord.
-template <class R, size_t Modes, size_t Patts>
-struct DisplayKeys {
-  struct Mode {
-    cfg::Str key;
-    uint8_t R::*field;
-    uint8_t fallback;
-  };
-  struct Patt {
-    cfg::Str name, color;
-    PATT_PROP R::*field;
-  };
-  Mode modes[Modes];
-  cfg::Str lineName, lineWidth, lineColor;
-  Patt patts[Patts];
-  cfg::Str fontName, fontHeight;
-  cfg::Str defaultFace;  // the face name when the font-name key is empty
-};
-
-const DisplayKeys<_OldProdProp, 6, 3> kProdKeys = {
-    {{cfg::kStatusCorreDate, &_OldProdProp::correDate, 1},
-     {cfg::kStatusStatMode, &_OldProdProp::statMode, 1},
-     {cfg::kStatusDataMode, &_OldProdProp::dataMode, 0},
-     {cfg::kStatusPictShape, &_OldProdProp::pictShape, 0},
-     {cfg::kStatusFactorMode, &_OldProdProp::factorMode, 0},
-     {cfg::kStatusCorreMode, &_OldProdProp::correMode, 2}},
-    cfg::kStatusLineName,
-    cfg::kStatusLineWidth,
-    cfg::kStatusLineColor,
-    {{cfg::kStatusOilPattName, cfg::kStatusOilPattColor, &_OldProdProp::oilPatt},
-     {cfg::kStatusWaterPattName, cfg::kStatusWaterPattColor, &_OldProdProp::waterPatt},
-     {cfg::kStatusInpourPattName, cfg::kStatusInpourPattColor, &_OldProdProp::inpourPatt}},
-    cfg::kStatusLblFontName,
-    cfg::kStatusLblFontHeight,
-    cfg::kArial,
-};
-
-const DisplayKeys<_OldTestProp, 3, 2> kTestKeys = {
-    {{cfg::kTestPictShape, &_OldTestProp::pictShape, 0},
-     {cfg::kTestFactorMode, &_OldTestProp::factorMode, 0},
-     {cfg::kTestRatiusMode, &_OldTestProp::ratiusMode, 2}},
-    cfg::kTestLineName,
-    cfg::kTestLineWidth,
-    cfg::kTestLineColor,
-    {{cfg::kTestOilPattName, cfg::kTestOilPattColor, &_OldTestProp::oilPatt},
-     {cfg::kTestWaterPattName, cfg::kTestWaterPattColor, &_OldTestProp::waterPatt}},
-    cfg::kTestLblFontName,
-    cfg::kTestLblFontHeight,
-    cfg::kArial316,
-};
-
-// `from` cut to N - 1 bytes.
-template <size_t N>
-void CopyName(char (&to)[N], const String& from) {
-  const size_t n = from.size() < N - 1 ? from.size() : N - 1;
-  std::memcpy(to, from.data(), n);
-  to[n] = '\0';
+// The label font's face when its key is empty.
+template <class R, cfg::Str Face>
+void LabelFace(R& r, const String& value) {
+  detail::CopyFixed(detail::FixedText{r.lblFont.faceName, sizeof r.lblFont.faceName},
+                    value.empty() ? cfg::Name(Face) : value);
 }
 
-template <class R, size_t Modes, size_t Patts>
-void ReadDisplay(const CCfgScript& script, R* r, float ratio, const DisplayKeys<R, Modes, Patts>& keys) {
+// The mode bytes are read with sToInteger (empty gives their default),
+// widths with sToFloat, colours with sToDWord; an empty name empties the
+// field.
+const KeyRow<_OldProdProp> kProdRows[] = {
+    {cfg::kStatusCorreDate, Scan::kInt, &_OldProdProp::correDate, Rule::kEmptyGives, 1},
+    {cfg::kStatusStatMode, Scan::kInt, &_OldProdProp::statMode, Rule::kEmptyGives, 1},
+    {cfg::kStatusDataMode, Scan::kInt, &_OldProdProp::dataMode, Rule::kEmptyGives, 0},
+    {cfg::kStatusPictShape, Scan::kInt, &_OldProdProp::pictShape, Rule::kEmptyGives, 0},
+    {cfg::kStatusFactorMode, Scan::kInt, &_OldProdProp::factorMode, Rule::kEmptyGives, 0},
+    {cfg::kStatusCorreMode, Scan::kInt, &_OldProdProp::correMode, Rule::kEmptyGives, 2},
+    {cfg::kStatusLineName, Scan::kText, &FixedAt<&_OldProdProp::line, &LINE_PROP::style>},
+    {cfg::kStatusLineWidth, Scan::kFloat, &At<&_OldProdProp::line, &LINE_PROP::width>, Rule::kEmptyGives,
+     kDefaultLineWidth},
+    {cfg::kStatusLineColor, Scan::kHex, &At<&_OldProdProp::line, &LINE_PROP::color>},
+    {cfg::kStatusOilPattName, Scan::kText, &FixedAt<&_OldProdProp::oilPatt, &PATT_PROP::name>},
+    {cfg::kStatusOilPattColor, Scan::kHex, &At<&_OldProdProp::oilPatt, &PATT_PROP::backColor>},
+    {cfg::kStatusWaterPattName, Scan::kText, &FixedAt<&_OldProdProp::waterPatt, &PATT_PROP::name>},
+    {cfg::kStatusWaterPattColor, Scan::kHex, &At<&_OldProdProp::waterPatt, &PATT_PROP::backColor>},
+    {cfg::kStatusInpourPattName, Scan::kText, &FixedAt<&_OldProdProp::inpourPatt, &PATT_PROP::name>},
+    {cfg::kStatusInpourPattColor, Scan::kHex, &At<&_OldProdProp::inpourPatt, &PATT_PROP::backColor>},
+    {cfg::kStatusLblFontName, Scan::kText, &LabelFace<_OldProdProp, cfg::kArial>},
+    // The label font height key sets the font's colour and the height keeps
+    // its default: scripts written for the suite rely on this reading.
+    {cfg::kStatusLblFontHeight, Scan::kHex, &At<&_OldProdProp::lblFont, &FONT_PROP::color>},
+};
+constexpr PATT_PROP _OldProdProp::*kProdPatts[] = {&_OldProdProp::oilPatt, &_OldProdProp::waterPatt,
+                                                   &_OldProdProp::inpourPatt};
+
+const KeyRow<_OldTestProp> kTestRows[] = {
+    {cfg::kTestPictShape, Scan::kInt, &_OldTestProp::pictShape, Rule::kEmptyGives, 0},
+    {cfg::kTestFactorMode, Scan::kInt, &_OldTestProp::factorMode, Rule::kEmptyGives, 0},
+    {cfg::kTestRatiusMode, Scan::kInt, &_OldTestProp::ratiusMode, Rule::kEmptyGives, 2},
+    {cfg::kTestLineName, Scan::kText, &FixedAt<&_OldTestProp::line, &LINE_PROP::style>},
+    {cfg::kTestLineWidth, Scan::kFloat, &At<&_OldTestProp::line, &LINE_PROP::width>, Rule::kEmptyGives,
+     kDefaultLineWidth},
+    {cfg::kTestLineColor, Scan::kHex, &At<&_OldTestProp::line, &LINE_PROP::color>},
+    {cfg::kTestOilPattName, Scan::kText, &FixedAt<&_OldTestProp::oilPatt, &PATT_PROP::name>},
+    {cfg::kTestOilPattColor, Scan::kHex, &At<&_OldTestProp::oilPatt, &PATT_PROP::backColor>},
+    {cfg::kTestWaterPattName, Scan::kText, &FixedAt<&_OldTestProp::waterPatt, &PATT_PROP::name>},
+    {cfg::kTestWaterPattColor, Scan::kHex, &At<&_OldTestProp::waterPatt, &PATT_PROP::backColor>},
+    {cfg::kTestLblFontName, Scan::kText, &LabelFace<_OldTestProp, cfg::kArial316>},
+    {cfg::kTestLblFontHeight, Scan::kHex, &At<&_OldTestProp::lblFont, &FONT_PROP::color>},
+};
+constexpr PATT_PROP _OldTestProp::*kTestPatts[] = {&_OldTestProp::oilPatt, &_OldTestProp::waterPatt};
+
+template <class R, size_t N, size_t Patts>
+void ReadDisplay(const CCfgScript& script, R* r, float ratio, const KeyRow<R> (&rows)[N],
+                 PATT_PROP R::*const (&patts)[Patts]) {
   if (!r) return;
-  const String block = cfg::Name(cfg::kWellLocationMap);
-  const auto value = [&](cfg::Str key) { return script.GetKeyVal(block.c_str(), cfg::Name(key).c_str()); };
-  for (const auto& mode : keys.modes) {
-    const String v = value(mode.key);
-    r->*mode.field = v.empty() ? mode.fallback : static_cast<uint8_t>(sToInteger(v));
-  }
-  CopyName(r->line.style, value(keys.lineName));
-  const String width = value(keys.lineWidth);
-  r->line.width = width.empty() ? kDefaultLineWidth : sToFloat(width);
-  r->line.color = sToDWord(value(keys.lineColor));
-  for (const auto& p : keys.patts) {
-    PATT_PROP& patt = r->*p.field;
-    CopyName(patt.name, value(p.name));
-    patt.backColor = sToDWord(value(p.color));
-    patt.foreColor = 0;
-    patt.ratio = ratio;
-  }
   sInitFontProp(&r->lblFont);
-  const String face = value(keys.fontName);
-  CopyName(r->lblFont.faceName, face.empty() ? cfg::Name(keys.defaultFace) : face);
-  // The label font height key sets the font's colour and the height keeps
-  // its default: scripts written for the suite rely on this reading.
-  r->lblFont.color = sToDWord(value(keys.fontHeight));
+  detail::ReadKeys(script, cfg::Name(cfg::kWellLocationMap), *r, rows);
+  for (PATT_PROP R::*p : patts) {
+    (r->*p).foreColor = 0;
+    (r->*p).ratio = ratio;
+  }
 }
 
 }  // namespace
@@ -113,10 +96,15 @@ _OldProdProp* sCfgGetOldProdPropPtr() { return &detail::StoreTable<_OldProdProp>
 _OldTestProp* sCfgGetOldTestPropPtr() { return &detail::StoreTable<_OldTestProp>(); }
 
 void sCfgReadOldProdProp(CCfgScript& script, _OldProdProp* prop, float ratio) {
-  ReadDisplay(script, prop, ratio, kProdKeys);
+  ReadDisplay(script, prop, ratio, kProdRows, kProdPatts);
 }
 void sCfgReadOldTestProp(CCfgScript& script, _OldTestProp* prop, float ratio) {
-  ReadDisplay(script, prop, ratio, kTestKeys);
+  ReadDisplay(script, prop, ratio, kTestRows, kTestPatts);
+}
+
+void detail::AppendDisplayKeys(KeyList& keys) {
+  AppendKeys(keys, kProdRows);
+  AppendKeys(keys, kTestRows);
 }
 
 void sCfgCopyOldProdProp(_OldProdProp* dst, const _OldProdProp* src) {

@@ -1,16 +1,14 @@
 // The map records every map kind shares: layers, spacing, frame, legend,
 // scale and curve parameters, read from the kind's block.
-#include <cmath>
-#include <cstring>
-#include <limits>
 #include <memory>
-#include <variant>
 
 #include "base/text_bytes.h"
 #include "catalogs/map_record_fields.h"
+#include "catalogs/reader_keys.h"
 #include "mapcfg/archive.h"
 #include "mapcfg/catalogs.h"
 #include "mapcfg/describe.h"
+#include "store/key_table.h"
 #include "store/script_fields.h"
 
 namespace mapcfg {
@@ -20,68 +18,92 @@ namespace {
 // The unknown value of curve limits and invalid samples.
 constexpr double kMissingValue = -999.25;
 
-// How a key's value is scanned.
-enum class Scan { kInt, kHex, kFloat, kDouble, kText };
+using detail::At;
+using detail::FixedAt;
+using detail::KeyRow;
+using detail::Rule;
+using detail::Scan;
+constexpr Rule kKeep = Rule::kEmptyKeeps;  // the attribute initialiser's value stays
+constexpr Rule kEmpty = Rule::kEmptyGives;
 
-// A fixed name field of an attribute record.
-struct FixedName {
-  char* text;
-  size_t size;
-};
-
-// Where a key's value goes: a field of the record or of an attribute
-// record inside it.
-using Target = std::variant<uint8_t*, int32_t*, uint32_t*, float*, double*, String*, FixedName>;
-
-// The default of a key that an attribute initialiser already set.
-constexpr double kAsInitialised = std::numeric_limits<double>::quiet_NaN();
-
-// One key of a block: its name, its scan, its field and the value a
-// missing or empty key gives.
-struct KeyRow {
-  cfg::Str key;
-  Scan scan;
-  Target to;
-  double def;
-};
-
-template <class T>
-void Store(T* to, const KeyRow& row, const String& value) {
-  if (value.empty()) {
-    if (!std::isnan(row.def)) *to = static_cast<T>(row.def);
-    return;
-  }
-  // Integer scans keep their low bits: "%d" of 258 into a byte gives 2.
-  switch (row.scan) {
-    case Scan::kInt: *to = static_cast<T>(sToInteger(value)); break;
-    case Scan::kHex: *to = static_cast<T>(sToDWord(value)); break;
-    case Scan::kFloat: *to = static_cast<T>(sToFloat(value)); break;
-    default: *to = static_cast<T>(sToDouble(value)); break;
-  }
-}
-void Store(String* to, const KeyRow&, const String& value) { *to = value; }
-
-// A name longer than its field is cut; an empty one keeps what the field
-// holds (the initialiser's face or style).
-void CopyName(FixedName to, const String& value) {
-  if (value.empty()) return;
-  const size_t n = value.size() < to.size - 1 ? value.size() : to.size - 1;
-  std::memcpy(to.text, value.data(), n);
-  to.text[n] = '\0';
-}
-void Store(FixedName to, const KeyRow&, const String& value) { CopyName(to, value); }
-
-void ReadKeys(const CCfgScript& script, const String& block, std::initializer_list<KeyRow> rows) {
-  for (const KeyRow& row : rows) {
-    const String value = script.GetKeyVal(block.c_str(), cfg::Name(row.key).c_str());
-    std::visit([&](auto to) { Store(to, row, value); }, row.to);
-  }
-}
-
+// `from` cut to the name field `to`; an empty one keeps what the field holds
+// (the initialiser's face or style).
 template <size_t N>
-FixedName Face(char (&name)[N]) {
-  return FixedName{name, N};
+void CopyName(char (&to)[N], const String& from) {
+  if (!from.empty()) detail::CopyFixed(detail::FixedText{to, N}, from);
 }
+
+const KeyRow<_LayersProp> kLayerRows[] = {
+    {cfg::kPatternRatio, Scan::kFloat, &_LayersProp::PatternRatio, kEmpty, 1.0},
+    {cfg::kVertWellMode, Scan::kInt, &_LayersProp::VertWellMode},
+    {cfg::kMapHVRatio, Scan::kFloat, &_LayersProp::MapHVRatio, kEmpty, 1.0},
+    {cfg::kMapHorzExpand, Scan::kFloat, &_LayersProp::MapHorzExpand},
+    {cfg::kMajorHigh, Scan::kFloat, &_LayersProp::MajorHigh},
+    {cfg::kMapVertMajorIncrement, Scan::kFloat, &_LayersProp::MapVertMajorIncrement},
+};
+
+const KeyRow<_HVSpaceProp> kSpaceRows[] = {
+    {cfg::kHorzSpaceRatio, Scan::kDouble, &_HVSpaceProp::hSpace, kEmpty, 1.0},
+    {cfg::kVertSpaceRatio, Scan::kDouble, &_HVSpaceProp::vSpace, kEmpty, 1.0},
+};
+
+const KeyRow<_MapFrameProp> kFrameRows[] = {
+    {cfg::kMapName, Scan::kText, &_MapFrameProp::MapName},
+    {cfg::kMapMarkLabel, Scan::kText, &_MapFrameProp::MapMarkLabel},
+    {cfg::kDrawMapInfo, Scan::kInt, &_MapFrameProp::DrawMapInfo},
+    {cfg::kFrameFlags, Scan::kHex, &_MapFrameProp::FrameFlags, kEmpty, 0x01},
+    {cfg::kMapTickLength, Scan::kFloat, &_MapFrameProp::MapTickLength},
+    {cfg::kVScaleSpace, Scan::kFloat, &_MapFrameProp::VScaleSpace},
+    {cfg::kHScaleSpace, Scan::kFloat, &_MapFrameProp::HScaleSpace},
+    {cfg::kVGridLineSpace, Scan::kFloat, &_MapFrameProp::VGridLineSpace},
+    {cfg::kHGridLineSpace, Scan::kFloat, &_MapFrameProp::HGridLineSpace},
+    {cfg::kBoundOutExt, Scan::kFloat, &_MapFrameProp::BoundOutExt},
+    {cfg::kMapNameFontHeight, Scan::kFloat, &At<&_MapFrameProp::MapNameFont, &FONT_PROP::height>, kKeep},
+    {cfg::kMapNameFontName, Scan::kText, &FixedAt<&_MapFrameProp::MapNameFont, &FONT_PROP::faceName>, kKeep},
+    {cfg::kMapNameFontClr, Scan::kHex, &At<&_MapFrameProp::MapNameFont, &FONT_PROP::color>, kKeep},
+    {cfg::kMapLabelFontHeight, Scan::kFloat, &At<&_MapFrameProp::MapLabelFont, &FONT_PROP::height>, kKeep},
+    {cfg::kMapInfoFontHeight, Scan::kFloat, &At<&_MapFrameProp::MapInfoFont, &FONT_PROP::height>, kKeep},
+    {cfg::kMapInfoFontName, Scan::kText, &FixedAt<&_MapFrameProp::MapInfoFont, &FONT_PROP::faceName>, kKeep},
+    {cfg::kMapInfoFontClr, Scan::kHex, &At<&_MapFrameProp::MapInfoFont, &FONT_PROP::color>, kKeep},
+    {cfg::kMajorScaleFontHeight, Scan::kFloat, &_MapFrameProp::MajorScaleFontHeight},
+    {cfg::kMinorScaleFontHeight, Scan::kFloat, &_MapFrameProp::MinorScaleFontHeight},
+    {cfg::kFrameBorderWidth, Scan::kFloat, &At<&_MapFrameProp::FrameBorder, &LINE_PROP::width>, kKeep},
+};
+
+const KeyRow<_LegendProp> kLegendRows[] = {
+    {cfg::kLegend, Scan::kInt, &_LegendProp::Legend, kEmpty, 1},
+    {cfg::kLegendBorderWidth, Scan::kFloat, &At<&_LegendProp::Border, &LINE_PROP::width>, kKeep},
+    {cfg::kLegendGroundClr, Scan::kHex, &At<&_LegendProp::Ground, &PATT_PROP::backColor>, kKeep},
+    {cfg::kLineSpaceRatio, Scan::kFloat, &_LegendProp::LineSpaceRatio, kEmpty, 0.5},
+    {cfg::kSegmentSpaceRatio, Scan::kFloat, &_LegendProp::SegmentSpaceRatio, kEmpty, 1.0},
+    {cfg::kSymbolSpaceRatio, Scan::kFloat, &_LegendProp::SymbolSpaceRatio, kEmpty, 0.5},
+    {cfg::kBaseCharNumber, Scan::kInt, &_LegendProp::BaseCharNumber, kEmpty, 8},
+    {cfg::kCharHeightRatio, Scan::kFloat, &_LegendProp::CharHeightRatio, kEmpty, 1.0},
+    {cfg::kLegendMetaCols, Scan::kInt, &_LegendProp::LegendMetaCols, kEmpty, 1},
+    {cfg::kSymbolRadius, Scan::kFloat, &At<&_LegendProp::Meta, &_LegendMetaProp::SymbolRadius>, kEmpty, 2.0},
+    {cfg::kLineWidth, Scan::kFloat, &At<&_LegendProp::Meta, &_LegendMetaProp::Line, &LINE_PROP::width>, kKeep},
+    {cfg::kFontHeight, Scan::kFloat, &At<&_LegendProp::Meta, &_LegendMetaProp::Font, &FONT_PROP::height>, kKeep},
+};
+
+const KeyRow<_ScaleProp> kScaleRows[] = {
+    {cfg::kScaleHeight, Scan::kFloat, &_ScaleProp::ScaleHeight, kEmpty, 2.0},
+    {cfg::kScaleMinorNumber, Scan::kInt, &_ScaleProp::ScaleMinorNumber, kEmpty, 5},
+    {cfg::kScaleMajorNumber, Scan::kInt, &_ScaleProp::ScaleMajorNumber, kEmpty, 2},
+    {cfg::kScaleMajorSpace, Scan::kFloat, &_ScaleProp::ScaleMajorSpace, kEmpty, 10.0},
+    {cfg::kScaleMinorFactor, Scan::kFloat, &_ScaleProp::ScaleMinorFactor, kEmpty, 1.0},
+    {cfg::kScaleMajorFactor, Scan::kFloat, &_ScaleProp::ScaleMajorFactor, kEmpty, 1.0},
+    {cfg::kScaleMinorUnit, Scan::kText, &_ScaleProp::ScaleMinorUnit},
+    {cfg::kScaleMajorUnit, Scan::kText, &_ScaleProp::ScaleMajorUnit},
+    {cfg::kScaleLineWidth, Scan::kFloat, &At<&_ScaleProp::Line, &LINE_PROP::width>, kKeep},
+};
+
+// The value of curve samples that are missing, for every curve of a block.
+struct CurveDefaults {
+  double invalid = kMissingValue;
+};
+const KeyRow<CurveDefaults> kCurveRows[] = {
+    {cfg::kCrvInvalidValue, Scan::kDouble, &CurveDefaults::invalid, kEmpty, kMissingValue},
+};
 
 // Fields of a curve line, "code; name; left; right; LineStyle; LineWidth;
 // LineColor". Empty limits are unknown.
@@ -98,7 +120,7 @@ std::unique_ptr<_CurveParm> ParseCurve(const String& value, double invalid) {
   r->Prop.RightValue = limit();
   r->Prop.InvalidValue = invalid;
   sInitLineProp(&r->Prop.Line);
-  CopyName(Face(r->Prop.Line.style), f.Text(';'));
+  CopyName(r->Prop.Line.style, f.Text(';'));
   const String width = f.Text(';');
   if (!width.empty()) r->Prop.Line.width = sToFloat(width);
   r->Prop.Line.color = f.Hex(';');
@@ -115,7 +137,7 @@ void AddFill(RecordArray<_CurveParm>& parms, size_t first, const String& value, 
     auto fill = std::make_unique<_CrvFillItem>();
     fill->Curve = f.Text(';');
     sInitPattProp(&fill->Patt, ratio);
-    CopyName(Face(fill->Patt.name), f.Text(';'));
+    CopyName(fill->Patt.name, f.Text(';'));
     const String back = f.Text(';');
     if (!back.empty()) fill->Patt.backColor = sToDWord(back);
     parms[i]->Fills.push_back(std::move(fill));
@@ -127,15 +149,7 @@ void AddFill(RecordArray<_CurveParm>& parms, size_t first, const String& value, 
 
 float sCfgReadLayersProp(CCfgScript& script, const String& block, _LayersProp* prop) {
   _LayersProp& r = *prop;
-  ReadKeys(script, block,
-           {
-               {cfg::kPatternRatio, Scan::kFloat, &r.PatternRatio, 1.0},
-               {cfg::kVertWellMode, Scan::kInt, &r.VertWellMode, 0},
-               {cfg::kMapHVRatio, Scan::kFloat, &r.MapHVRatio, 1.0},
-               {cfg::kMapHorzExpand, Scan::kFloat, &r.MapHorzExpand, 0},
-               {cfg::kMajorHigh, Scan::kFloat, &r.MajorHigh, 0},
-               {cfg::kMapVertMajorIncrement, Scan::kFloat, &r.MapVertMajorIncrement, 0},
-           });
+  detail::ReadKeys(script, block, r, kLayerRows);
   // Scales: anything not above 0 (NaN included) draws at 1.
   if (!(r.PatternRatio > 0)) r.PatternRatio = 1.0f;
   if (!(r.MapHVRatio > 0)) r.MapHVRatio = 1.0f;
@@ -143,11 +157,7 @@ float sCfgReadLayersProp(CCfgScript& script, const String& block, _LayersProp* p
 }
 
 void sCfgReadHVSpaceProp(CCfgScript& script, const String& block, _HVSpaceProp* prop) {
-  ReadKeys(script, block,
-           {
-               {cfg::kHorzSpaceRatio, Scan::kDouble, &prop->hSpace, 1.0},
-               {cfg::kVertSpaceRatio, Scan::kDouble, &prop->vSpace, 1.0},
-           });
+  detail::ReadKeys(script, block, *prop, kSpaceRows);
 }
 
 void sCfgReadMapFrameProp(CCfgScript& script, const String& block, _MapFrameProp* prop) {
@@ -156,29 +166,7 @@ void sCfgReadMapFrameProp(CCfgScript& script, const String& block, _MapFrameProp
   sInitFontProp(&r.MapLabelFont);
   sInitFontProp(&r.MapInfoFont);
   sInitLineProp(&r.FrameBorder);
-  ReadKeys(script, block,
-           {
-               {cfg::kMapName, Scan::kText, &r.MapName, 0},
-               {cfg::kMapMarkLabel, Scan::kText, &r.MapMarkLabel, 0},
-               {cfg::kDrawMapInfo, Scan::kInt, &r.DrawMapInfo, 0},
-               {cfg::kFrameFlags, Scan::kHex, &r.FrameFlags, 0x01},
-               {cfg::kMapTickLength, Scan::kFloat, &r.MapTickLength, 0},
-               {cfg::kVScaleSpace, Scan::kFloat, &r.VScaleSpace, 0},
-               {cfg::kHScaleSpace, Scan::kFloat, &r.HScaleSpace, 0},
-               {cfg::kVGridLineSpace, Scan::kFloat, &r.VGridLineSpace, 0},
-               {cfg::kHGridLineSpace, Scan::kFloat, &r.HGridLineSpace, 0},
-               {cfg::kBoundOutExt, Scan::kFloat, &r.BoundOutExt, 0},
-               {cfg::kMapNameFontHeight, Scan::kFloat, &r.MapNameFont.height, kAsInitialised},
-               {cfg::kMapNameFontName, Scan::kText, Face(r.MapNameFont.faceName), 0},
-               {cfg::kMapNameFontClr, Scan::kHex, &r.MapNameFont.color, kAsInitialised},
-               {cfg::kMapLabelFontHeight, Scan::kFloat, &r.MapLabelFont.height, kAsInitialised},
-               {cfg::kMapInfoFontHeight, Scan::kFloat, &r.MapInfoFont.height, kAsInitialised},
-               {cfg::kMapInfoFontName, Scan::kText, Face(r.MapInfoFont.faceName), 0},
-               {cfg::kMapInfoFontClr, Scan::kHex, &r.MapInfoFont.color, kAsInitialised},
-               {cfg::kMajorScaleFontHeight, Scan::kFloat, &r.MajorScaleFontHeight, 0},
-               {cfg::kMinorScaleFontHeight, Scan::kFloat, &r.MinorScaleFontHeight, 0},
-               {cfg::kFrameBorderWidth, Scan::kFloat, &r.FrameBorder.width, kAsInitialised},
-           });
+  detail::ReadKeys(script, block, r, kFrameRows);
 }
 
 void sCfgReadLegendProp(CCfgScript& script, const String& block, _LegendProp* prop, float ratio) {
@@ -187,21 +175,7 @@ void sCfgReadLegendProp(CCfgScript& script, const String& block, _LegendProp* pr
   sInitPattProp(&r.Ground, ratio);
   sInitLineProp(&r.Meta.Line);
   sInitFontProp(&r.Meta.Font);
-  ReadKeys(script, block,
-           {
-               {cfg::kLegend, Scan::kInt, &r.Legend, 1},
-               {cfg::kLegendBorderWidth, Scan::kFloat, &r.Border.width, kAsInitialised},
-               {cfg::kLegendGroundClr, Scan::kHex, &r.Ground.backColor, kAsInitialised},
-               {cfg::kLineSpaceRatio, Scan::kFloat, &r.LineSpaceRatio, 0.5},
-               {cfg::kSegmentSpaceRatio, Scan::kFloat, &r.SegmentSpaceRatio, 1.0},
-               {cfg::kSymbolSpaceRatio, Scan::kFloat, &r.SymbolSpaceRatio, 0.5},
-               {cfg::kBaseCharNumber, Scan::kInt, &r.BaseCharNumber, 8},
-               {cfg::kCharHeightRatio, Scan::kFloat, &r.CharHeightRatio, 1.0},
-               {cfg::kLegendMetaCols, Scan::kInt, &r.LegendMetaCols, 1},
-               {cfg::kSymbolRadius, Scan::kFloat, &r.Meta.SymbolRadius, 2.0},
-               {cfg::kLineWidth, Scan::kFloat, &r.Meta.Line.width, kAsInitialised},
-               {cfg::kFontHeight, Scan::kFloat, &r.Meta.Font.height, kAsInitialised},
-           });
+  detail::ReadKeys(script, block, r, kLegendRows);
   // Counts of characters and columns: at least one.
   if (r.BaseCharNumber < 1) r.BaseCharNumber = 1;
   if (r.LegendMetaCols < 1) r.LegendMetaCols = 1;
@@ -210,23 +184,13 @@ void sCfgReadLegendProp(CCfgScript& script, const String& block, _LegendProp* pr
 void sCfgReadScaleProp(CCfgScript& script, const String& block, _ScaleProp* prop) {
   _ScaleProp& r = *prop;
   sInitLineProp(&r.Line);
-  ReadKeys(script, block,
-           {
-               {cfg::kScaleHeight, Scan::kFloat, &r.ScaleHeight, 2.0},
-               {cfg::kScaleMinorNumber, Scan::kInt, &r.ScaleMinorNumber, 5},
-               {cfg::kScaleMajorNumber, Scan::kInt, &r.ScaleMajorNumber, 2},
-               {cfg::kScaleMajorSpace, Scan::kFloat, &r.ScaleMajorSpace, 10.0},
-               {cfg::kScaleMinorFactor, Scan::kFloat, &r.ScaleMinorFactor, 1.0},
-               {cfg::kScaleMajorFactor, Scan::kFloat, &r.ScaleMajorFactor, 1.0},
-               {cfg::kScaleMinorUnit, Scan::kText, &r.ScaleMinorUnit, 0},
-               {cfg::kScaleMajorUnit, Scan::kText, &r.ScaleMajorUnit, 0},
-               {cfg::kScaleLineWidth, Scan::kFloat, &r.Line.width, kAsInitialised},
-           });
+  detail::ReadKeys(script, block, r, kScaleRows);
 }
 
 void sCfgReadCurveParms(CCfgScript& script, const String& block, RecordArray<_CurveParm>& parms, float ratio) {
-  double invalid = kMissingValue;
-  ReadKeys(script, block, {{cfg::kCrvInvalidValue, Scan::kDouble, &invalid, kMissingValue}});
+  CurveDefaults defaults;
+  detail::ReadKeys(script, block, defaults, kCurveRows);
+  const double invalid = defaults.invalid;
   const String curve = cfg::Name(cfg::kCurve), filling = cfg::Name(cfg::kFillingCurve);
   const size_t first = parms.size();  // fills reach only the curves of this block
   const int count = script.GetKeyCnt(block.c_str());
@@ -241,6 +205,20 @@ void sCfgReadCurveParms(CCfgScript& script, const String& block, RecordArray<_Cu
 }
 
 void sCfgClearCurveParms(RecordArray<_CurveParm>& parms) { parms.clear(); }
+
+void detail::AppendMapRecordKeys(KeyList& keys) {
+  AppendKeys(keys, kLayerRows);
+  AppendKeys(keys, kSpaceRows);
+  AppendKeys(keys, kFrameRows);
+  AppendKeys(keys, kLegendRows);
+  AppendKeys(keys, kScaleRows);
+}
+
+void detail::AppendCurveKeys(KeyList& keys) {
+  AppendKeys(keys, kCurveRows);
+  keys.push_back(cfg::kCurve);  // repeated keys, one curve or fill each
+  keys.push_back(cfg::kFillingCurve);
+}
 
 void sCfgCopyLayersProp(_LayersProp* dst, const _LayersProp* src) { *dst = *src; }
 void sCfgCopyMapFrameProp(_MapFrameProp* dst, const _MapFrameProp* src) { *dst = *src; }

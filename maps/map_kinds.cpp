@@ -6,9 +6,11 @@
 #include "catalogs/attribute_fields.h"
 #include "catalogs/display_fields.h"
 #include "catalogs/map_record_fields.h"
+#include "catalogs/reader_keys.h"
 #include "mapcfg/catalogs.h"
 #include "mapcfg/describe.h"
 #include "mapcfg/maps.h"
+#include "maps/reader_keys.h"
 #include "maps/section_fields.h"
 #include "maps/wellloc_fields.h"
 #include "store/config_strings.h"
@@ -136,6 +138,22 @@ FieldTexts sDescribeMapKind(const String& kind) {
   for (cfg::Str k : {cfg::kReservoirProfileMap, cfg::kFenceMap, cfg::kMultiWellCorrelationMap})
     if (kind == cfg::Name(k)) return detail::DescribeRecord(SectionStream{k});
   return FieldTexts();
+}
+
+std::vector<int> sDescribeMapKindKeys(const String& kind) {
+  detail::KeyList keys;
+  if (kind == cfg::Name(cfg::kWellLocationMap)) {
+    detail::AppendMapRecordKeys(keys);
+    detail::AppendWellLocKeys(keys);
+    detail::AppendDisplayKeys(keys);
+  }
+  for (cfg::Str k : {cfg::kReservoirProfileMap, cfg::kFenceMap, cfg::kMultiWellCorrelationMap}) {
+    if (kind != cfg::Name(k)) continue;
+    detail::AppendMapRecordKeys(keys);
+    detail::AppendSectionKeys(keys, k == cfg::kFenceMap);
+    detail::AppendCurveKeys(keys);
+  }
+  return std::vector<int>(keys.begin(), keys.end());
 }
 
 void sCfgReadMapReserv(CCfgScript& script) { ReadSection(script, cfg::kReservoirProfileMap); }

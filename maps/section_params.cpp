@@ -6,8 +6,9 @@
 #include "mapcfg/archive.h"
 #include "mapcfg/describe.h"
 #include "mapcfg/maps.h"
-#include "maps/key_table.h"
+#include "maps/reader_keys.h"
 #include "maps/section_fields.h"
+#include "store/key_table.h"
 #include "store/store_state.h"
 
 namespace mapcfg {
@@ -78,23 +79,28 @@ const KeyRow<_PMTMapProp> kMapRows[] = {
     {cfg::kEffectiveVal1, Scan::kDouble, &_PMTMapProp::EffectiveVal1, Rule::kEmptyGives, -999.25},
     {cfg::kEffectiveVal2, Scan::kDouble, &_PMTMapProp::EffectiveVal2, Rule::kEmptyGives, -999.25},
     {cfg::kLeastInterlayer, Scan::kDouble, &_PMTMapProp::LeastInterlayer, Rule::kPositiveOr, 0.1},
-    {cfg::kFmtTLineWidth, Scan::kFloat, [](_PMTMapProp& r) -> float& { return r.FmtTLine.width; }, Rule::kNotNegative},
-    {cfg::kFmtBLineWidth, Scan::kFloat, [](_PMTMapProp& r) -> float& { return r.FmtBLine.width; }, Rule::kNotNegative},
-    {cfg::kSublTLineWidth, Scan::kFloat, [](_PMTMapProp& r) -> float& { return r.SublTLine.width; },
+    {cfg::kFmtTLineWidth, Scan::kFloat, &detail::At<&_PMTMapProp::FmtTLine, &LINE_PROP::width>, Rule::kNotNegative},
+    {cfg::kFmtBLineWidth, Scan::kFloat, &detail::At<&_PMTMapProp::FmtBLine, &LINE_PROP::width>, Rule::kNotNegative},
+    {cfg::kSublTLineWidth, Scan::kFloat, &detail::At<&_PMTMapProp::SublTLine, &LINE_PROP::width>,
      Rule::kNotNegative},
-    {cfg::kSublBLineWidth, Scan::kFloat, [](_PMTMapProp& r) -> float& { return r.SublBLine.width; },
+    {cfg::kSublBLineWidth, Scan::kFloat, &detail::At<&_PMTMapProp::SublBLine, &LINE_PROP::width>,
      Rule::kNotNegative},
-    {cfg::kInteTLineWidth, Scan::kFloat, [](_PMTMapProp& r) -> float& { return r.InteTLine.width; },
+    {cfg::kInteTLineWidth, Scan::kFloat, &detail::At<&_PMTMapProp::InteTLine, &LINE_PROP::width>,
      Rule::kNotNegative},
-    {cfg::kInteBLineWidth, Scan::kFloat, [](_PMTMapProp& r) -> float& { return r.InteBLine.width; },
+    {cfg::kInteBLineWidth, Scan::kFloat, &detail::At<&_PMTMapProp::InteBLine, &LINE_PROP::width>,
      Rule::kNotNegative},
     {cfg::kSublayerFillLith, Scan::kSwitch, &_PMTMapProp::SublayerFillLith},
+    {cfg::kPerforationSymbol, Scan::kText, &_PMTMapProp::PerforationSymbol},
+    {cfg::kPerforationPlug, Scan::kText, &_PMTMapProp::PerforationPlug},
+    {cfg::kPerforationUnplug, Scan::kText, &_PMTMapProp::PerforationUnplug},
+    {cfg::kFmtGroungClr, Scan::kHex, &detail::At<&_PMTMapProp::FmtGroundPatt, &PATT_PROP::backColor>,
+     Rule::kEmptyKeeps},
 };
 
 const KeyRow<_PMTBodyProp> kBodyRows[] = {
     {cfg::kWHeadDispFlags, Scan::kInt, &_PMTBodyProp::WHeadDispFlags},
     {cfg::kWNameUOffset, Scan::kFloat, &_PMTBodyProp::WNameUOffset},
-    {cfg::kWNameFontHeight, Scan::kFloat, [](_PMTBodyProp& r) -> float& { return r.WNameFont.height; },
+    {cfg::kWNameFontHeight, Scan::kFloat, &detail::At<&_PMTBodyProp::WNameFont, &FONT_PROP::height>,
      Rule::kPositiveOr, 16},
     {cfg::kWSymbolUOffset, Scan::kFloat, &_PMTBodyProp::WSymbolUOffset},
     {cfg::kWSymbolRadius, Scan::kFloat, &_PMTBodyProp::WSymbolRadius},
@@ -103,7 +109,7 @@ const KeyRow<_PMTBodyProp> kBodyRows[] = {
     {cfg::kWellRgtLinePosition, Scan::kDouble, &_PMTBodyProp::WellRgtLinePosition},
     {cfg::kHoleUSpace, Scan::kFloat, &_PMTBodyProp::HoleUSpace},
     {cfg::kHoleDSpace, Scan::kFloat, &_PMTBodyProp::HoleDSpace},
-    {cfg::kHoleBorderWidth, Scan::kFloat, [](_PMTBodyProp& r) -> float& { return r.HoleBorder.width; }},
+    {cfg::kHoleBorderWidth, Scan::kFloat, &detail::At<&_PMTBodyProp::HoleBorder, &LINE_PROP::width>},
     {cfg::kCHeadNameFontHeight, Scan::kFloat, &_PMTBodyProp::CHeadNameFontHeight},
     {cfg::kCHeadScaleFontHeight, Scan::kFloat, &_PMTBodyProp::CHeadScaleFontHeight},
     {cfg::kLayerLeftPos, Scan::kDouble, &_PMTBodyProp::LayerLeftPos},
@@ -119,18 +125,22 @@ const KeyRow<_PMTLableProp> kLabelRows[] = {
     {cfg::kRulerLineOffset, Scan::kFloat, &_PMTLableProp::RulerLineOffset, Rule::kEmptyGives, 10},
     {cfg::kRulerTickLength, Scan::kFloat, &_PMTLableProp::RulerTickLength},
     {cfg::kRulerScaleSpace, Scan::kInt, &_PMTLableProp::RulerScaleSpace, Rule::kZeroGives, 10},
-    {cfg::kRulerLineWidth, Scan::kFloat, [](_PMTLableProp& r) -> float& { return r.RulerLine.width; },
+    {cfg::kRulerLineWidth, Scan::kFloat, &detail::At<&_PMTLableProp::RulerLine, &LINE_PROP::width>,
      Rule::kEmptyGives, 1},
     {cfg::kRulerMarkWidth, Scan::kFloat, &_PMTLableProp::RulerMarkWidth, Rule::kEmptyGives, 0.25},
-    {cfg::kRulerFmtFontHeight, Scan::kFloat, [](_PMTLableProp& r) -> float& { return r.RulerFmtFont.height; }},
+    {cfg::kRulerFmtFontHeight, Scan::kFloat, &detail::At<&_PMTLableProp::RulerFmtFont, &FONT_PROP::height>},
     {cfg::kRulerScaleFontHeight, Scan::kFloat, &_PMTLableProp::RulerScaleFontHeight},
 };
 
-// The width of a fault or division line.
-void ReadLine(const CCfgScript& script, const String& block, cfg::Str key, LINE_PROP* line) {
+// The fault and division lines: colour 0, no style, the width from the key.
+const KeyRow<LINE_PROP> kFaultRows[] = {{cfg::kFaultLineWidth, Scan::kFloat, &LINE_PROP::width}};
+const KeyRow<LINE_PROP> kDiviRows[] = {{cfg::kBoundaryLineWidth, Scan::kFloat, &LINE_PROP::width}};
+
+template <size_t N>
+void ReadLine(const CCfgScript& script, const String& block, LINE_PROP* line, const KeyRow<LINE_PROP> (&rows)[N]) {
   if (!line) return;
   ResetLine(*line);
-  line->width = sToFloat(detail::KeyValue(script, block, key));
+  detail::ReadKeys(script, block, *line, rows);
 }
 
 }  // namespace
@@ -164,11 +174,6 @@ void sCfgReadPMTMapProp(CCfgScript& script, const String& block, _PMTMapProp* pr
                           &prop->InteBLine})
     sInitLineProp(line);
   detail::ReadKeys(script, block, *prop, kMapRows);
-  prop->PerforationSymbol = detail::KeyValue(script, block, cfg::kPerforationSymbol);
-  prop->PerforationPlug = detail::KeyValue(script, block, cfg::kPerforationPlug);
-  prop->PerforationUnplug = detail::KeyValue(script, block, cfg::kPerforationUnplug);
-  const String ground = detail::KeyValue(script, block, cfg::kFmtGroungClr);
-  if (!ground.empty()) prop->FmtGroundPatt.backColor = sToDWord(ground);
 }
 
 void sCfgReadPMTBodyProp(CCfgScript& script, const String& block, _PMTBodyProp* prop) {
@@ -194,11 +199,22 @@ void sCfgReadPMTModelProp(CCfgScript& script, const String& block, char* flags) 
 }
 
 void sCfgReadPMTFaultProp(CCfgScript& script, const String& block, LINE_PROP* line) {
-  ReadLine(script, block, cfg::kFaultLineWidth, line);
+  ReadLine(script, block, line, kFaultRows);
 }
 
 void sCfgReadPMTDiviProp(CCfgScript& script, const String& block, LINE_PROP* line) {
-  ReadLine(script, block, cfg::kBoundaryLineWidth, line);
+  ReadLine(script, block, line, kDiviRows);
+}
+
+void detail::AppendSectionKeys(KeyList& keys, bool fence) {
+  AppendKeys(keys, kAutoRows);
+  AppendKeys(keys, kMapRows);
+  AppendKeys(keys, kBodyRows);
+  AppendKeys(keys, kFaultRows);
+  AppendKeys(keys, kDiviRows);
+  if (fence) return;
+  AppendKeys(keys, kLabelRows);
+  keys.push_back(cfg::kSmoothModelLine);
 }
 
 void sCfgCopyPMTAutoParm(_PMTAutoParm* dst, const _PMTAutoParm* src) { CopyRecord(dst, src); }

@@ -4,6 +4,7 @@
 #include "mapcfg/describe.h"
 #include "mapcfg/maps.h"
 #include "mapcfg/utils.h"
+#include "maps/reader_keys.h"
 #include "maps/wellloc_fields.h"
 #include "store/config_strings.h"
 #include "store/store_state.h"
@@ -12,53 +13,34 @@ namespace mapcfg {
 
 namespace {
 
-// Values below this (in single precision) count as not given.
-constexpr float kMinSize = 0.0005f;
-
 constexpr int kDefaultDepthBase = 3;  // the target layer
 constexpr float kDefaultBaseDepth = 1200.0f;
 
-// The keys of _JWTAutoParm and how each value is stored (the scans "%d",
-// "%f" and "%x" are sToInteger, sToFloat and sToDWord).
-struct AutoKey {
-  cfg::Str key;
-  void (*store)(_JWTAutoParm& r, const String& value);
-};
-const AutoKey kAutoKeys[] = {
-    {cfg::kDepthBaseMode,
-     [](_JWTAutoParm& r, const String& v) {
-       const int mode = sToInteger(v);
-       r.DepthBaseMode = static_cast<char>(mode < 1 || mode > 4 ? kDefaultDepthBase : mode);
-     }},
-    {cfg::kStraBaseName, [](_JWTAutoParm& r, const String& v) { r.StraBaseName = v; }},
-    {cfg::kSglBaseDepth,
-     [](_JWTAutoParm& r, const String& v) {
-       const float depth = sToFloat(v);
-       r.SglBaseDepth = depth < 0.0f ? kDefaultBaseDepth : depth;
-     }},
-    {cfg::kSglDisplayMode,
-     [](_JWTAutoParm& r, const String& v) { r.SglDisplayMode = static_cast<uint8_t>(sToDWord(v)); }},
-};
+using detail::KeyRow;
+using detail::Rule;
+using detail::Scan;
 
-// The keys of _JWTMapProp: each value is scanned with "%f" and one below
-// kMinSize takes the default.
-struct MapKey {
-  cfg::Str key;
-  float _JWTMapProp::*field;
-  float fallback;
-};
-const MapKey kMapKeys[] = {
-    {cfg::kWSymbolRadius, &_JWTMapProp::WSymbolRadius, 25.0f},
-    {cfg::kWNameFontHeight, &_JWTMapProp::WNameFontHeight, 35.0f},
-    {cfg::kHangingFootWallsDistance, &_JWTMapProp::HangingFootWallsDistance, 50.0f},
-    {cfg::kContourPosition, &_JWTMapProp::ContourPosition, 0.5f},
-    {cfg::kAutoScanRdius, &_JWTMapProp::AutoScanRdius, 50.0f},
-};
-
-// The value of `key` in the well location map's block.
-String Value(const CCfgScript& script, cfg::Str key) {
-  return script.GetKeyVal(cfg::Name(cfg::kWellLocationMap).c_str(), cfg::Name(key).c_str());
+// A depth base mode outside 1..4 gives the target layer.
+void DepthBaseMode(_JWTAutoParm& r, const String& value) {
+  const int mode = sToInteger(value);
+  r.DepthBaseMode = static_cast<char>(mode < 1 || mode > 4 ? kDefaultDepthBase : mode);
 }
+
+const KeyRow<_JWTAutoParm> kAutoRows[] = {
+    {cfg::kDepthBaseMode, Scan::kInt, &DepthBaseMode},
+    {cfg::kStraBaseName, Scan::kText, &_JWTAutoParm::StraBaseName},
+    {cfg::kSglBaseDepth, Scan::kFloat, &_JWTAutoParm::SglBaseDepth, Rule::kNegativeGives, kDefaultBaseDepth},
+    {cfg::kSglDisplayMode, Scan::kHex, &_JWTAutoParm::SglDisplayMode},
+};
+
+// Sizes: a value below 0.0005 (in single precision) takes the default.
+const KeyRow<_JWTMapProp> kMapRows[] = {
+    {cfg::kWSymbolRadius, Scan::kFloat, &_JWTMapProp::WSymbolRadius, Rule::kTinyGives, 25},
+    {cfg::kWNameFontHeight, Scan::kFloat, &_JWTMapProp::WNameFontHeight, Rule::kTinyGives, 35},
+    {cfg::kHangingFootWallsDistance, Scan::kFloat, &_JWTMapProp::HangingFootWallsDistance, Rule::kTinyGives, 50},
+    {cfg::kContourPosition, Scan::kFloat, &_JWTMapProp::ContourPosition, Rule::kTinyGives, 0.5},
+    {cfg::kAutoScanRdius, Scan::kFloat, &_JWTMapProp::AutoScanRdius, Rule::kTinyGives, 50},
+};
 
 }  // namespace
 
@@ -67,7 +49,7 @@ _JWTMapProp* sCfgGetJWTMapPropPtr() { return &detail::StoreTable<_JWTMapProp>();
 
 void sCfgReadJWTAutoParm(CCfgScript& script, _JWTAutoParm* parm) {
   if (!parm) return;
-  for (const AutoKey& k : kAutoKeys) k.store(*parm, Value(script, k.key));
+  detail::ReadKeys(script, cfg::Name(cfg::kWellLocationMap), *parm, kAutoRows);
   parm->Text.clear();
   parm->Switch1 = 1;
   parm->Switch2 = 1;
@@ -75,10 +57,12 @@ void sCfgReadJWTAutoParm(CCfgScript& script, _JWTAutoParm* parm) {
 
 void sCfgReadJWTMapProp(CCfgScript& script, _JWTMapProp* prop) {
   if (!prop) return;
-  for (const MapKey& k : kMapKeys) {
-    const float v = sToFloat(Value(script, k.key));
-    prop->*k.field = v < kMinSize ? k.fallback : v;
-  }
+  detail::ReadKeys(script, cfg::Name(cfg::kWellLocationMap), *prop, kMapRows);
+}
+
+void detail::AppendWellLocKeys(KeyList& keys) {
+  AppendKeys(keys, kAutoRows);
+  AppendKeys(keys, kMapRows);
 }
 
 void sCfgCopyJWTAutoParm(_JWTAutoParm* dst, const _JWTAutoParm* src) {

@@ -3,10 +3,17 @@
 #include <gtest/gtest.h>
 #include <mapcfg/mapcfg.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
 #include <vector>
 
 #include "archive_test_util.h"
+#include "catalogs/display_fields.h"
+#include "catalogs/map_record_fields.h"
+#include "maps/section_fields.h"
+#include "maps/wellloc_fields.h"
+#include "record_random.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -163,6 +170,129 @@ TEST(MapKinds, ExampleStreamsAreTheGoldenFile) {
   sCfgWriteMapFence(a);
   sCfgWriteMapCorrel(a);
   EXPECT_EQ(mapcfg_test::Bytes(a), mapcfg_test::ReadAll(MAPCFG_TEST_DATA "/archive/kinds_en.arc"));
+}
+
+// The keys a kind's readers take are exactly those sDescribeMapKindKeys
+// lists (the tool's unknown-key check trusts that list): every configuration
+// string, set in each kind's block, changes that kind's records if and only
+// if the list holds it (or a string of the same text), in both languages.
+TEST(MapKinds, KeyListsAreTheKeysTheReadersTake) {
+  mapcfg_test::StoreGuard guard;
+  mapcfg_test::TempDir dir;
+  const auto folded = [](String s) {
+    for (char& c : s) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+    return s;
+  };
+  for (char lang : {0, 1}) {
+    *sGetCfgLang() = lang;
+    std::vector<std::vector<String>> listed;  // per kind, folded key texts
+    for (const char* kind : kKinds) {
+      std::vector<String> texts;
+      for (int row : sDescribeMapKindKeys(Named(kind, lang))) texts.push_back(folded(sGetCfgStr(lang, row)));
+      EXPECT_GE(texts.size(), 40u) << kind;
+      listed.push_back(texts);
+    }
+    // Every kind's block holds one curve (so that a fill has a curve to
+    // go to) and then the key under test.
+    const auto read = [&](const String& extra) {
+      String text;
+      for (const char* kind : kKinds)
+        text += "Config: " + Named(kind, lang) + "\nBegin\n" + Named("Curve", lang) + " = 2\n" + extra + "End\n";
+      sCfgClearPlate();
+      CCfgScript script;
+      script.Open(dir.Write("keys.cfg", text).c_str(), 0);
+      sCfgReadMapWellLoc(script);
+      sCfgReadMapReserv(script);
+      sCfgReadMapFence(script);
+      sCfgReadMapCorrel(script);
+      std::vector<std::vector<String>> kinds;
+      for (const FieldTexts& k : Kinds(lang)) kinds.push_back(Values(k));
+      return kinds;
+    };
+    const auto base = read("");
+    for (int row = 0; row < kCfgStrCount; ++row) {
+      const String key = sGetCfgStr(lang, row);
+      if (key.empty() || key.find_first_of("=\r\n/[#:") != String::npos || folded(key) == "begin" ||
+          folded(key) == "end")
+        continue;
+      const auto two = read(key + " = 2\n"), seven = read(key + " = 7\n");
+      for (size_t k = 0; k < base.size(); ++k) {
+        const bool taken = two[k] != base[k] || seven[k] != base[k];
+        const bool in_list =
+            std::find(listed[k].begin(), listed[k].end(), folded(key)) != listed[k].end();
+        EXPECT_EQ(taken, in_list) << kKinds[k] << ", language " << int(lang) << ", key \"" << key << "\" (row "
+                                  << row << ")";
+      }
+    }
+  }
+}
+
+// Every record of a kind set to random values: the records the kind's
+// stream holds, through the getters hosts use.
+void Randomize(mapcfg_test::RecordRandomizer& r, const String& kind) {
+  r("layers", *sCfgGetLayersPropPtr(kind));
+  r("space", *sCfgGetHVSpacePropPtr(kind));
+  r("frame", *sCfgGetMapFramePropPtr(kind));
+  r("legend", *sCfgGetLegendPropPtr(kind));
+  r("scale", *sCfgGetScalePropPtr(kind));
+  if (kind == sGetCfgStr(*sGetCfgLang(), 338)) {  // the well location map
+    r("autoParm", *sCfgGetJWTAutoParmPtr());
+    r("mapProp", *sCfgGetJWTMapPropPtr());
+    r("oldProd", *sCfgGetOldProdPropPtr());
+    r("oldTest", *sCfgGetOldTestPropPtr());
+    return;
+  }
+  r("curves", *sCfgGetCurveParmsPtr(kind));
+  r("autoParm", *sCfgGetPMTAutoParmPtr(kind));
+  r("mapProp", *sCfgGetPMTMapPropPtr(kind));
+  r("bodyProp", *sCfgGetPMTBodyPropPtr(kind));
+  if (_PMTLableProp* label = sCfgGetPMTLabelPropPtr(kind)) r("labelProp", *label);
+  if (char* model = sCfgGetPMTModelPropPtr(kind)) r("modelFlag", *model);
+  r("faultLine", *sCfgGetPMTFaultPropPtr(kind));
+  r("diviLine", *sCfgGetPMTDiviPropPtr(kind));
+}
+
+// Seeded random records of all four kinds, in either language, written as
+// their streams and read back: every field the describer names comes back,
+// and writing again gives the same bytes.
+TEST(MapKinds, RandomRecordsComeBackThroughTheStreams) {
+  mapcfg_test::StoreGuard guard;
+  for (unsigned seed = 1; seed <= 40; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    const char lang = static_cast<char>(seed % 2);
+    *sGetCfgLang() = lang;
+    sCfgClearPlate();
+    std::mt19937 rng(seed);
+    mapcfg_test::RecordRandomizer randomizer(rng, 4);
+    for (const char* kind : kKinds) Randomize(randomizer, Named(kind, lang));
+    const std::vector<FieldTexts> before = Kinds(lang);
+
+    CFFArchive out;
+    for (String (*write)(CFFArchive&) : {sCfgWriteMapWellLoc, sCfgWriteMapReserv, sCfgWriteMapFence, sCfgWriteMapCorrel})
+      ASSERT_EQ(write(out), "");
+    const std::string bytes = mapcfg_test::Bytes(out);
+    sCfgClearPlate();
+    CFFArchive in;
+    mapcfg_test::Loaded(in, bytes);
+    using Reader = String (*)(CFFArchive&, uint32_t);
+    for (Reader read : {Reader(sCfgReadMapWellLoc), Reader(sCfgReadMapReserv), Reader(sCfgReadMapFence),
+                        Reader(sCfgReadMapCorrel)})
+      ASSERT_EQ(read(in, 0xFFFFFFFFu), "");
+    const std::vector<FieldTexts> after = Kinds(lang);
+    for (size_t k = 0; k < before.size(); ++k) {
+      ASSERT_EQ(after[k].size(), before[k].size()) << kKinds[k];
+      for (size_t f = 0; f < before[k].size(); ++f) {
+        const String& name = before[k][f].name;
+        // Two perforation texts of the section maps live in scripts only.
+        if (name == "mapProp.PerforationPlug" || name == "mapProp.PerforationUnplug") continue;
+        EXPECT_EQ(after[k][f].value, before[k][f].value) << kKinds[k] << " " << name;
+      }
+    }
+    CFFArchive again;
+    for (String (*write)(CFFArchive&) : {sCfgWriteMapWellLoc, sCfgWriteMapReserv, sCfgWriteMapFence, sCfgWriteMapCorrel})
+      write(again);
+    EXPECT_EQ(mapcfg_test::Bytes(again), bytes);
+  }
 }
 
 }  // namespace

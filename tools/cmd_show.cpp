@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "commands.h"
+#include "config_set.h"
 #include "display_text.h"
 #include "input.h"
 #include "map_kinds.h"
@@ -21,12 +22,6 @@ using mapcfg::FieldText;
 using mapcfg::FieldTexts;
 using mapcfg::String;
 using mapcfg::StringArray;
-
-struct Guard : mapcfg::ScriptEvents {
-  void OnFileBegin(const std::string& file, int depth) override {
-    if (depth > 1) StopUnlessRegular(file);
-  }
-};
 
 // Shows texts, and colours with the name the colour table gives them.
 class Printer {
@@ -163,27 +158,6 @@ bool IsMapKindTable(const Table& t) {
   return false;
 }
 
-void ReadEveryTable(mapcfg::CCfgScript& script) {
-  using namespace mapcfg;
-  for (auto read : {sCfgReadSysCfgParam, sCfgReadLibDlls, sCfgReadMenuFuns, sCfgReadStatusProps, sCfgReadInterpretProps,
-                    sCfgReadLithProps, sCfgReadColors, sCfgReadPrevColor, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
-                    sCfgReadGZFHs, sCfgReadTextFmts, sCfgReadDataSrcs, sCfgReadLabelCrvs, sCfgIsoLineProp})
-    read(script);
-  for (const MapKind& kind : MapKinds()) kind.read(script);
-}
-
-// The language whose block names the script uses more: the block names of
-// the readers (configuration strings) are counted in both.
-char GuessLanguage(const mapcfg::CCfgScript& script) {
-  int found[2] = {0, 0};
-  for (int index = 0; index < mapcfg::kCfgStrCount; ++index)
-    for (char lang : {0, 1}) {
-      const String name = mapcfg::sGetCfgStr(lang, index);
-      if (!name.empty() && script.GetKeyCnt(name.c_str()) >= 0) ++found[static_cast<int>(lang)];
-    }
-  return found[1] > found[0] ? 1 : 0;
-}
-
 }  // namespace
 
 int RunShow(const Call& call) {
@@ -193,11 +167,8 @@ int RunShow(const Call& call) {
     return UsageError(from_archive ? "give scripts or --archive, not both" : "missing FILE... or --archive FILE");
   if (call.Has("--version") && !from_archive) return UsageError("--version goes with --archive");
   char lang = -1;
-  if (call.Has("--lang")) {
-    const std::string& l = call.Value("--lang");
-    if (l != "en" && l != "zh") return UsageError("--lang takes en or zh, not '" + NameToDisplay(l) + "'");
-    lang = l == "zh" ? 1 : 0;
-  }
+  if (call.Has("--lang") && !ParseLang(call.Value("--lang"), &lang))
+    return UsageError("--lang takes en or zh, not '" + NameToDisplay(call.Value("--lang")) + "'");
   const Table* only = nullptr;
   if (call.Has("--table")) {
     for (const Table& t : Tables())
@@ -207,12 +178,11 @@ int RunShow(const Call& call) {
       for (const Table& t : Tables()) names += std::string(names.empty() ? "" : ", ") + t.name;
       return UsageError("no table '" + NameToDisplay(call.Value("--table")) + "' (tables: " + names + ")");
     }
-    if (from_archive && IsMapKindTable(*only))
-      return UsageError(std::string("the ") + only->name + " table is read from scripts: the whole-store archive has no map kinds");
   }
 
   const char saved_lang = *mapcfg::sGetCfgLang();
   int status = 0;
+  bool with_kinds = !from_archive;
   if (from_archive) {
     uint32_t version = 0xFFFFFFFFu;
     if (call.Has("--version")) {
@@ -227,29 +197,28 @@ int RunShow(const Call& call) {
     mapcfg::CFFArchive archive;
     if (!archive.FromFile(file)) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + archive.GetLastError());
     if (lang >= 0) *mapcfg::sGetCfgLang() = lang;
-    const String error = mapcfg::sCfgReadMain(archive, version);
-    if (!error.empty()) status = Fail(1, NameToDisplay(file) + ": the store stops early: " + ToDisplay(error, raw));
-  } else {
-    mapcfg::CCfgScript script;
-    Guard guard;
-    for (size_t i = 0; i < call.operands.size(); ++i) {
-      ScriptInput input;
-      std::string why;
-      const std::string& file = call.operands[i];
-      if (!input.Open(file, &why)) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + why);
-      try {
-        script.Open(input.path().c_str(), i > 0 ? 1 : 0, &guard);
-      } catch (const ReadStopped& e) {
-        return Fail(1, NameToDisplay(input.Shown(e.included)) + " is " + e.what() + ": reading stopped there");
-      }
+    if (IsPackFile(file)) {
+      // A pack holds the map kinds too, and the language it was made in.
+      with_kinds = true;
+      char packed = 0;
+      const String error = mapcfg::sCfgReadPack(archive, &packed);
+      if (lang < 0) *mapcfg::sGetCfgLang() = packed;
+      if (!error.empty()) status = Fail(1, NameToDisplay(file) + ": the pack stops early: " + ToDisplay(error, raw));
+    } else {
+      const String error = mapcfg::sCfgReadMain(archive, version);
+      if (!error.empty()) status = Fail(1, NameToDisplay(file) + ": the store stops early: " + ToDisplay(error, raw));
     }
-    *mapcfg::sGetCfgLang() = lang >= 0 ? lang : GuessLanguage(script);
-    ReadEveryTable(script);
+  } else {
+    LoadedConfig loaded;
+    std::string why;
+    if (!LoadScripts(call.operands, lang, &loaded, &why)) return Fail(1, why);
   }
+  if (only && !with_kinds && IsMapKindTable(*only))
+    return UsageError(std::string("the ") + only->name + " table is read from scripts or packs: the whole-store archive has no map kinds");
 
   const Printer printer(raw);
   for (const Table& t : Tables())
-    if (only ? only == &t : !(from_archive && IsMapKindTable(t))) t.print(printer);
+    if (only ? only == &t : with_kinds || !IsMapKindTable(t)) t.print(printer);
   *mapcfg::sGetCfgLang() = saved_lang;
   return status;
 }

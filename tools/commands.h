@@ -42,6 +42,8 @@ int RunCheck(const Call& call);
 int RunDump(const Call& call);
 int RunStrings(const Call& call);
 int RunShow(const Call& call);
+int RunPack(const Call& call);
+int RunDiff(const Call& call);
 
 // Prints "mapcfg: " + message on stderr and returns `status`.
 int Fail(int status, const std::string& message);

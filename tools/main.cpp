@@ -54,6 +54,17 @@ const Command kCommands[] = {
       kRaw},
      "the configuration tables the scripts or a whole-store archive fill, record by record",
      RunShow},
+    {"pack", "CONFIG", 1, 1,
+     {{"-o", "FILE", "the archive file to write (required)"},
+      {"--lang", "en|zh", "read the scripts' blocks in that language (default: the one they use)"}},
+     "a whole configuration (folder, plate folder, script or pack) into one archive file",
+     RunPack},
+    {"diff", "A B", 2, 2,
+     {{"--layout", nullptr, "compare which records and fields there are, not their values"},
+      {"--lang", "en|zh", "read both configurations' scripts in that language"},
+      kRaw},
+     "two whole configurations compared field by field: what changed, was removed or added",
+     RunDiff},
 };
 
 const Command* g_running = nullptr;

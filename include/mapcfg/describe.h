@@ -53,6 +53,10 @@ MAPCFG_EXPORT FieldTexts sDescribeMainStore();
 // of its stream (sCfgWriteMapReserv ...): "frame.MapName", "curves[0].Code"
 // ...; empty for an unknown name.
 MAPCFG_EXPORT FieldTexts sDescribeMapKind(const String& kind);
+// The configuration strings (rows of sGetCfgStr) of every key that the
+// readers of a map kind (named in the current language) look up in its
+// block; any other key of the block is ignored. Empty for an unknown name.
+MAPCFG_EXPORT std::vector<int> sDescribeMapKindKeys(const String& kind);
 
 }  // namespace mapcfg
 

@@ -14,6 +14,7 @@
 #include "mapcfg/catalogs.h"
 #include "mapcfg/maps.h"
 #include "mapcfg/describe.h"
+#include "mapcfg/configuration.h"
 #include "mapcfg/version.h"
 
 #endif  // MAPCFG_MAPCFG_H_

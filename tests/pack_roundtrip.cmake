@@ -1,0 +1,25 @@
+# The example configuration packed by the tool, the pack read back and packed
+# again: the two files must be the same bytes, the pack must show its map
+# kinds, and it must hold the layout of the Chinese scripts.
+#   -DTOOL=<mapcfg>  -DEXAMPLES=<examples folder>  -DWORK=<scratch folder>
+file(MAKE_DIRECTORY "${WORK}")
+function(run expect)
+  execute_process(COMMAND "${TOOL}" ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  if(NOT status STREQUAL "${expect}")
+    message(FATAL_ERROR "mapcfg ${ARGN}: exit ${status}, wanted ${expect}\n${out}${err}")
+  endif()
+  set(out "${out}" PARENT_SCOPE)
+endfunction()
+run(0 pack "${EXAMPLES}" -o "${WORK}/liuhe.pack")
+run(0 pack "${WORK}/liuhe.pack" -o "${WORK}/again.pack")
+file(SHA256 "${WORK}/liuhe.pack" first)
+file(SHA256 "${WORK}/again.pack" second)
+if(NOT first STREQUAL second)
+  message(FATAL_ERROR "a pack read back and packed again differs from the first")
+endif()
+run(0 show --archive "${WORK}/liuhe.pack" --table fence)
+if(NOT out MATCHES "frame.MapName = ")
+  message(FATAL_ERROR "show --archive of a pack shows no fence map:\n${out}")
+endif()
+run(0 diff --layout "${WORK}/liuhe.pack" "${EXAMPLES}/zh")
+run(1 diff "${WORK}/liuhe.pack" "${EXAMPLES}/zh")
