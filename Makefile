@@ -20,7 +20,8 @@ build: $(BUILD)/build.ninja
 
 # Builds the tool and shows what it reads from the bundled examples: a
 # script, then the tables of the example oil field in English and Chinese,
-# its pack, and that the two languages hold the same records.
+# one of its statistics template files, its pack, and that the two
+# languages hold the same records.
 demo: build
 	$(BUILD)/tools/mapcfg script examples/wells.cfg
 	$(BUILD)/tools/mapcfg check examples/wells.cfg && echo "check: examples/wells.cfg is clean"
@@ -29,9 +30,11 @@ demo: build
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table status
 	$(BUILD)/tools/mapcfg show examples/zh/field.cfg --table textfmts
 	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table wellloc
+	$(BUILD)/tools/mapcfg show examples/en/field.cfg --table single
 	$(BUILD)/tools/mapcfg pack examples -o $(BUILD)/liuhe.pack
 	$(BUILD)/tools/mapcfg show --archive $(BUILD)/liuhe.pack --table correl | head -12
 	$(BUILD)/tools/mapcfg diff --layout examples/en examples/zh
+	$(BUILD)/tools/mapcfg show examples/stat/water_cut.ctp
 
 # Builds and runs every test.
 test: build

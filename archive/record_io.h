@@ -30,6 +30,7 @@
 //   T[N] (other T)               its N elements in order
 //   StringArray                  PutStringArray (count, then the texts)
 //   std::vector<uint32_t>        PutDWordArray
+//   std::vector<int32_t>         PutIntArray (the same bytes)
 //   RecordArray<R>               PutLong(count), then each record; readers
 //                                append a new record per element
 //   a record R                   its own Fields, with the same version
@@ -38,6 +39,14 @@
 //                                GetDWord(p, n))
 //   v.Rows(name, a, b, c)        PutLong(b.size()), then a[i], b[i], c[i]
 //                                for each i (parallel arrays as rows)
+//   v.Columns(name, a, b, ...)   PutLong(a.size()), then row i of every
+//                                array in turn (any number of arrays; a
+//                                RecordArray cell is its record)
+//
+// A record that holds records of its own type (a tree) brackets its fields
+// with v.EnterNested() and v.LeaveNested(): readers and writers fail with
+// error 539 on a record nested deeper than kMaxRecordNesting, and no visitor
+// goes deeper.
 //
 // Fields functions are found by argument-dependent lookup, so they live in
 // namespace mapcfg; they are not exported.
@@ -63,6 +72,25 @@ namespace detail {
 // current layout.
 constexpr uint32_t kCurrentVersion = 0xFFFFFFFFu;
 
+// Levels of records nested in records of their own type that any visitor
+// follows; the archive's trees (single-well tracks) are at most this deep.
+constexpr int kMaxRecordNesting = 256;
+
+// The level count of a visitor: Enter is false, without counting, for a
+// record that would lie deeper than kMaxRecordNesting.
+class Nesting {
+ public:
+  bool Enter() {
+    if (depth_ >= kMaxRecordNesting) return false;
+    ++depth_;
+    return true;
+  }
+  void Leave() { --depth_; }
+
+ private:
+  int depth_ = 0;
+};
+
 template <class T>
 struct IsRecordArray : std::false_type {};
 template <class R>
@@ -82,6 +110,15 @@ class RecordWriter {
   explicit RecordWriter(CFFArchive& a) : a_(a) {}
   bool ok() const { return true; }
   uint32_t version() const { return kCurrentVersion; }
+  // A record past kMaxRecordNesting levels is left out and the write
+  // fails (PutRecord sets error 539): what was written cannot be read back.
+  bool EnterNested() {
+    if (nesting_.Enter()) return true;
+    too_deep_ = true;
+    return false;
+  }
+  void LeaveNested() { nesting_.Leave(); }
+  bool too_deep() const { return too_deep_; }
 
   void operator()(const char*, const String& v) { a_.PutString(v.c_str()); }
   template <size_t N>
@@ -98,6 +135,7 @@ class RecordWriter {
   void operator()(const char*, double v) { a_.PutDouble(v); }
   void operator()(const char*, const StringArray& v) { a_.PutStringArray(v); }
   void operator()(const char*, const std::vector<uint32_t>& v) { a_.PutDWordArray(v); }
+  void operator()(const char*, const std::vector<int32_t>& v) { a_.PutIntArray(v); }
   template <class T, size_t N>
   void operator()(const char* name, const T (&items)[N]) {
     for (const T& item : items) (*this)(name, item);
@@ -126,13 +164,37 @@ class RecordWriter {
       (*this)(name, i < c.size() ? c[i] : C());
     }
   }
+  // Rows of parallel arrays, as many rows as `first` has; a shorter array
+  // (which hosts should not make) gives empty, zero or blank-record cells.
+  template <class First, class... Rest>
+  void Columns(const char* name, const std::vector<First>& first, const std::vector<Rest>&... rest) {
+    a_.PutLong(static_cast<int32_t>(first.size()));
+    for (size_t i = 0; i < first.size(); ++i) {
+      Cell(name, first, i);
+      (Cell(name, rest, i), ...);
+    }
+  }
 
  private:
   template <class R>
   void Record(const R& record) {
     Fields(*this, const_cast<R&>(record));
   }
+  template <class T>
+  void Cell(const char* name, const std::vector<T>& column, size_t i) {
+    (*this)(name, i < column.size() ? column[i] : T());
+  }
+  template <class R>
+  void Cell(const char*, const RecordArray<R>& column, size_t i) {
+    if (i < column.size() && column[i]) {
+      Record(*column[i]);
+    } else {
+      Record(R{});
+    }
+  }
   CFFArchive& a_;
+  Nesting nesting_;
+  bool too_deep_ = false;
 };
 
 class RecordReader {
@@ -142,6 +204,15 @@ class RecordReader {
   // False from the first failed read on; every later field is left alone.
   bool ok() const { return ok_; }
   uint32_t version() const { return version_; }
+  // False, with error 539, for a record past kMaxRecordNesting levels.
+  bool EnterNested() {
+    if (!ok_) return false;
+    if (nesting_.Enter()) return true;
+    ArchiveCore::Fail(a_, kMsgLibraryFailure);
+    ok_ = false;
+    return false;
+  }
+  void LeaveNested() { nesting_.Leave(); }
 
   void operator()(const char*, String& v) {
     if (ok_) Check(v = a_.GetString());
@@ -169,6 +240,9 @@ class RecordReader {
   void operator()(const char*, std::vector<uint32_t>& v) {
     if (ok_) ok_ = a_.GetDWordArray(v) != 0;
   }
+  void operator()(const char*, std::vector<int32_t>& v) {
+    if (ok_) ok_ = a_.GetIntArray(v) != 0;
+  }
   template <class T, size_t N>
   void operator()(const char* name, T (&items)[N]) {
     for (T& item : items) (*this)(name, item);
@@ -178,13 +252,7 @@ class RecordReader {
   // stream can hold allocates nothing for it.
   template <class R>
   void operator()(const char*, RecordArray<R>& records) {
-    int32_t count = 0;
-    Scalar(count, &CFFArchive::GetLong);
-    for (int32_t i = 0; ok_ && i < count; ++i) {
-      auto record = std::make_unique<R>();
-      Fields(*this, *record);
-      if (ok_) records.push_back(std::move(record));
-    }
+    ReadRecords(records);
   }
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char*, R& record) {
@@ -212,13 +280,36 @@ class RecordReader {
       Append(name, a) && Append(name, b) && Append(name, c);
     }
   }
+  template <class... C>
+  void Columns(const char* name, std::vector<C>&... columns) {
+    int32_t count = 0;
+    Scalar(count, &CFFArchive::GetLong);
+    for (int32_t i = 0; ok_ && i < count; ++i) (Append(name, columns) && ...);
+  }
 
  private:
+  template <class R>
+  void ReadRecords(RecordArray<R>& records) {
+    int32_t count = 0;
+    Scalar(count, &CFFArchive::GetLong);
+    for (int32_t i = 0; ok_ && i < count; ++i) {
+      auto record = std::make_unique<R>();
+      Fields(*this, *record);
+      if (ok_) records.push_back(std::move(record));
+    }
+  }
   template <class T>
   bool Append(const char* name, std::vector<T>& to) {
     T cell{};
     (*this)(name, cell);
     if (ok_) to.push_back(std::move(cell));
+    return ok_;
+  }
+  template <class R>
+  bool Append(const char*, RecordArray<R>& to) {
+    auto record = std::make_unique<R>();
+    Fields(*this, *record);
+    if (ok_) to.push_back(std::move(record));
     return ok_;
   }
   bool Check(const String&) { return ok_ = !ArchiveCore::HasError(a_); }
@@ -233,6 +324,7 @@ class RecordReader {
   CFFArchive& a_;
   uint32_t version_;
   bool ok_ = true;
+  Nesting nesting_;
 };
 
 // Named texts of the fields: "line.width", "texts1[2]", "props[0].name".
@@ -242,6 +334,8 @@ class RecordDescriber {
   bool ok() const { return true; }
   uint32_t version() const { return kCurrentVersion; }
   FieldTexts& texts() { return texts_; }
+  bool EnterNested() { return nesting_.Enter(); }
+  void LeaveNested() { nesting_.Leave(); }
 
   void operator()(const char* name, const String& v) { Add(name, v, FieldText::kText); }
   template <size_t N>
@@ -268,11 +362,11 @@ class RecordDescriber {
   }
   template <class R>
   void operator()(const char* name, const RecordArray<R>& records) {
-    for (size_t i = 0; i < records.size(); ++i) Nested(Indexed(name, i), *records[i]);
+    for (size_t i = 0; i < records.size(); ++i) Sub(Indexed(name, i), *records[i]);
   }
   template <class R, class = std::enable_if_t<std::is_class_v<R> && !IsRecordArray<R>::value>>
   void operator()(const char* name, const R& record) {
-    Nested(name, record);
+    Sub(name, record);
   }
   void Block(const char* name, const uint32_t* words, uint32_t n) { Items(name, words, n); }
   template <class A, class B, class C>
@@ -280,6 +374,12 @@ class RecordDescriber {
     (*this)((std::string(name) + ".1").c_str(), a);
     (*this)((std::string(name) + ".2").c_str(), b);
     (*this)((std::string(name) + ".3").c_str(), c);
+  }
+  // Column k (from 1) as name.k.
+  template <class... C>
+  void Columns(const char* name, const std::vector<C>&... columns) {
+    int k = 0;
+    ((*this)((std::string(name) + "." + std::to_string(++k)).c_str(), columns), ...);
   }
 
   static std::string Hex(uint32_t v);
@@ -293,7 +393,7 @@ class RecordDescriber {
     for (size_t i = 0; i < n; ++i) (*this)(Indexed(name, i).c_str(), items[i]);
   }
   template <class R>
-  void Nested(const std::string& name, const R& record) {
+  void Sub(const std::string& name, const R& record) {
     const std::string saved = prefix_;
     prefix_ += name + ".";
     Fields(*this, const_cast<R&>(record));
@@ -304,14 +404,22 @@ class RecordDescriber {
   }
   std::string prefix_;
   FieldTexts texts_;
+  Nesting nesting_;
 };
 
 // The archive operations of a record type, for its CFFArchive members.
+// 1, or 0 with error 539 when the writer met a tree too deep to read back.
+inline int WriteDone(CFFArchive& a, const RecordWriter& w) {
+  if (!w.too_deep()) return 1;
+  ArchiveCore::Fail(a, kMsgLibraryFailure);
+  return 0;
+}
+
 template <class R>
 int PutRecord(CFFArchive& a, const R& record) {
   RecordWriter w(a);
   w(nullptr, record);
-  return 1;
+  return WriteDone(a, w);
 }
 
 template <class R>
@@ -334,7 +442,7 @@ int PutRecordArrays(CFFArchive& a, const RecordArray<R>& first, const RecordArra
     if (second) w(nullptr, *second->at(i));
     if (third) w(nullptr, *third->at(i));
   }
-  return 1;
+  return WriteDone(a, w);
 }
 
 // Get...Array: the count, then for each index a new record appended to

@@ -12,7 +12,7 @@
 #include <memory>
 #include <string>
 
-#include "archive/archive_core.h"
+#include "plain_decode.h"
 
 namespace {
 
@@ -106,27 +106,7 @@ BENCHMARK(BM_ReadKinds)->Unit(benchmark::kMicrosecond);
 // Every value read with the Get of its stored tag.
 void BM_PlainGetDecode(benchmark::State& state) {
   const std::string& bytes = KindsStream();
-  for (auto _ : state) {
-    CFFArchive a;
-    a.FromData(bytes.data(), static_cast<uint32_t>(bytes.size()));
-    double sum = 0;
-    size_t text = 0;
-    uint8_t tag = 0;
-    while (a.ReadUnit(&tag, 1)) {
-      detail::ArchiveCore::StepBack(a, 1);
-      switch (tag) {
-        case 1: sum += a.GetByte(); break;
-        case 2: sum += a.GetShort(); break;
-        case 3: sum += a.GetLong(); break;
-        case 4: sum += a.GetFloat(); break;
-        case 5: sum += a.GetDouble(); break;
-        default: text += a.GetString().size(); break;
-      }
-      if (detail::ArchiveCore::HasError(a)) break;  // a value no Get above reads
-    }
-    benchmark::DoNotOptimize(sum);
-    benchmark::DoNotOptimize(text);
-  }
+  for (auto _ : state) mapcfg_bench::PlainDecode(bytes);
 }
 BENCHMARK(BM_PlainGetDecode)->Unit(benchmark::kMicrosecond);
 

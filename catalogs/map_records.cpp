@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "base/text_bytes.h"
+#include "catalogs/attribute_values.h"
 #include "catalogs/map_record_fields.h"
 #include "catalogs/reader_keys.h"
 #include "mapcfg/archive.h"
@@ -25,13 +26,6 @@ using detail::Rule;
 using detail::Scan;
 constexpr Rule kKeep = Rule::kEmptyKeeps;  // the attribute initialiser's value stays
 constexpr Rule kEmpty = Rule::kEmptyGives;
-
-// `from` cut to the name field `to`; an empty one keeps what the field holds
-// (the initialiser's face or style).
-template <size_t N>
-void CopyName(char (&to)[N], const String& from) {
-  if (!from.empty()) detail::CopyFixed(detail::FixedText{to, N}, from);
-}
 
 const KeyRow<_LayersProp> kLayerRows[] = {
     {cfg::kPatternRatio, Scan::kFloat, &_LayersProp::PatternRatio, kEmpty, 1.0},
@@ -120,10 +114,7 @@ std::unique_ptr<_CurveParm> ParseCurve(const String& value, double invalid) {
   r->Prop.RightValue = limit();
   r->Prop.InvalidValue = invalid;
   sInitLineProp(&r->Prop.Line);
-  CopyName(r->Prop.Line.style, f.Text(';'));
-  const String width = f.Text(';');
-  if (!width.empty()) r->Prop.Line.width = sToFloat(width);
-  r->Prop.Line.color = f.Hex(';');
+  detail::ReadLineFields(f, r->Prop.Line);
   return r;
 }
 
@@ -137,9 +128,7 @@ void AddFill(RecordArray<_CurveParm>& parms, size_t first, const String& value, 
     auto fill = std::make_unique<_CrvFillItem>();
     fill->Curve = f.Text(';');
     sInitPattProp(&fill->Patt, ratio);
-    CopyName(fill->Patt.name, f.Text(';'));
-    const String back = f.Text(';');
-    if (!back.empty()) fill->Patt.backColor = sToDWord(back);
+    detail::ReadPattFields(f, fill->Patt);
     parms[i]->Fills.push_back(std::move(fill));
     return;
   }
@@ -206,9 +195,13 @@ void sCfgReadCurveParms(CCfgScript& script, const String& block, RecordArray<_Cu
 
 void sCfgClearCurveParms(RecordArray<_CurveParm>& parms) { parms.clear(); }
 
-void detail::AppendMapRecordKeys(KeyList& keys) {
+void detail::AppendLayerKeys(KeyList& keys) {
   AppendKeys(keys, kLayerRows);
   AppendKeys(keys, kSpaceRows);
+}
+
+void detail::AppendMapRecordKeys(KeyList& keys) {
+  AppendLayerKeys(keys);
   AppendKeys(keys, kFrameRows);
   AppendKeys(keys, kLegendRows);
   AppendKeys(keys, kScaleRows);

@@ -8,7 +8,11 @@
 namespace mapcfg {
 namespace detail {
 
-// Layers, spacing, frame, legend and scale: every map kind.
+// Layers and spacing: every map kind, the single-well map included.
+void AppendLayerKeys(KeyList& keys);
+
+// Layers, spacing, frame, legend and scale: every map kind but the
+// single-well map.
 void AppendMapRecordKeys(KeyList& keys);
 
 // The curve parameters, "Curve" and "FillingCurve" included.

@@ -19,9 +19,7 @@ std::string Streams() {
   if (!mapcfg::sCfgWriteMapWellLoc(a).empty() || !mapcfg::sCfgWriteMapReserv(a).empty() ||
       !mapcfg::sCfgWriteMapFence(a).empty() || !mapcfg::sCfgWriteMapCorrel(a).empty())
     std::abort();
-  uint32_t n = 0;
-  std::unique_ptr<uint8_t[]> bytes = a.ToData(n);
-  return std::string(reinterpret_cast<const char*>(bytes.get()), n);
+  return mapcfg_fuzz::Bytes(a);
 }
 
 }  // namespace
@@ -30,9 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace mapcfg;
   if (size == 0) return 0;
   mapcfg_fuzz::StoreReset reset;
-  *sGetCfgLang() = static_cast<char>(data[0] & 1);
   CCfgScript script;
-  script.Open(mapcfg_fuzz::WriteScratch("maps.cfg", data + 1, size - 1).c_str(), 0);
+  mapcfg_fuzz::OpenScript(script, data, size, "maps.cfg");
   sCfgReadMapWellLoc(script);
   sCfgReadMapReserv(script);
   sCfgReadMapFence(script);

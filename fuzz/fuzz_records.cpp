@@ -1,14 +1,17 @@
 // Every record reader, and the streams of the whole store and of each map
-// kind, on any bytes with any archive version: the first four bytes are the
-// version, the fifth chooses the reader, the rest is the stream. A count in
-// the stream never allocates ahead of the bytes that follow it (the
-// sanitizers' allocation limit would stop the run). A record read is written
-// again and described, so that whatever a reader leaves is a record the
-// writer and the describer take.
+// kind (the single-well map's included), on any bytes with any archive
+// version: the first four bytes are the version, the fifth chooses the
+// reader, the rest is the stream. A count in the stream never allocates
+// ahead of the bytes that follow it (the sanitizers' allocation limit would
+// stop the run). A record read is written again and described, so that
+// whatever a reader leaves is a record the writer and the describer take; a
+// track tree read is written, read and written again to the same bytes.
 #include <mapcfg/mapcfg.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
+#include <string>
 
 #include "fuzz_util.h"
 
@@ -19,6 +22,33 @@ void Use(const R& r, int (mapcfg::CFFArchive::*put)(const R*)) {
   mapcfg::CFFArchive out;
   (out.*put)(&r);
   (void)mapcfg::sDescribe(r);
+}
+
+constexpr uint32_t kCurrent = 0xFFFFFFFFu;
+const mapcfg::_DJTTrack* Arg(const mapcfg::_DJTTrack& r) { return &r; }
+const mapcfg::_DJTTempl* Arg(const mapcfg::_DJTTempl& r) { return &r; }
+template <class R>
+const mapcfg::RecordArray<R>& Arg(const mapcfg::RecordArray<R>& r) {
+  return r;
+}
+int Get(mapcfg::CFFArchive& a, mapcfg::_DJTTrack& r) { return a.GetDJTTrack(&r, kCurrent); }
+int Get(mapcfg::CFFArchive& a, mapcfg::_DJTTempl& r) { return a.GetDJTTempl(&r, kCurrent); }
+int Get(mapcfg::CFFArchive& a, mapcfg::RecordArray<mapcfg::_DJTTrack>& r) { return a.GetDJTTrackArray(r, kCurrent); }
+int Get(mapcfg::CFFArchive& a, mapcfg::RecordArray<mapcfg::_DJTTempl>& r) { return a.GetDJTTemplArray(r, kCurrent); }
+
+// A tree the archive gave is one the writers take: written again, it must
+// read back to the same bytes.
+template <class R, class Put>
+void Tree(R& r, Put put) {
+  mapcfg::CFFArchive out, again;
+  if (!(out.*put)(Arg(r))) std::abort();
+  const std::string bytes = mapcfg_fuzz::Bytes(out);
+  mapcfg::CFFArchive in;
+  in.FromData(bytes.data(), static_cast<uint32_t>(bytes.size()));
+  R back{};
+  if (!Get(in, back)) std::abort();
+  (again.*put)(Arg(back));
+  if (mapcfg_fuzz::Bytes(again) != bytes) std::abort();
 }
 
 }  // namespace
@@ -32,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   CFFArchive a;
   a.FromData(data + 5, static_cast<uint32_t>(size - 5));
   mapcfg_fuzz::StoreReset reset;
-  switch (op % 30) {
+  switch (op % 37) {
     case 0: { LINE_PROP r{}; a.GetLineProp(r, version); (void)sDescribe(r); break; }
     case 1: { PATT_PROP r{}; a.GetPattProp(r, version); (void)sDescribe(r); break; }
     case 2: { FONT_PROP r{}; a.GetFontProp(r); (void)sDescribe(r); break; }
@@ -62,8 +92,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     case 26: { _PMTLableProp r{}; a.GetPMTLabelProp(&r, version); Use(r, &CFFArchive::PutPMTLabelProp); break; }
     case 27: { _OldProdProp r{}; a.GetOldProdProp(&r, version); Use(r, &CFFArchive::PutOldProdProp); break; }
     case 28: { _OldTestProp r{}; a.GetOldTestProp(&r, version); Use(r, &CFFArchive::PutOldTestProp); break; }
-    default: { _JWTAutoParm r; a.GetJWTAutoParm(&r); Use(r, &CFFArchive::PutJWTAutoParm);
+    case 29: { _JWTAutoParm r; a.GetJWTAutoParm(&r); Use(r, &CFFArchive::PutJWTAutoParm);
                _JWTMapProp m{}; a.GetJWTMapProp(&m); Use(m, &CFFArchive::PutJWTMapProp); break; }
+    case 30: { _DJTMapProp r; a.GetDJTMapProp(&r); Use(r, &CFFArchive::PutDJTMapProp); break; }
+    case 31: { _DJTTrackProp r; a.GetDJTTrackProp(&r, version); Use(r, &CFFArchive::PutDJTTrackProp); break; }
+    case 32: { _DJTTrack r; a.GetDJTTrack(&r, version); Tree(r, &CFFArchive::PutDJTTrack); break; }
+    case 33: { RecordArray<_DJTTrack> r; a.GetDJTTrackArray(r, version); Tree(r, &CFFArchive::PutDJTTrackArray); break; }
+    case 34: { _DJTTempl r; a.GetDJTTempl(&r, version); Tree(r, &CFFArchive::PutDJTTempl); break; }
+    case 35: { RecordArray<_DJTTempl> r; a.GetDJTTemplArray(r, version); Tree(r, &CFFArchive::PutDJTTemplArray); break; }
+    default: (void)sCfgReadMapSingle(a, version); (void)sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), 347)); break;
   }
   return 0;
 }

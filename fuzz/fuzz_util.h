@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <random>
 #include <string>
 
@@ -38,6 +39,21 @@ inline std::string WriteScratch(const char* name, const void* data, size_t size)
   if (size) std::fwrite(data, 1, size, f);
   std::fclose(f);
   return path;
+}
+
+// Opens the script of a fuzz input whose first byte chooses the language
+// (bit 0: Chinese) and whose other bytes are the script, written to `name`.
+// The input must not be empty.
+inline void OpenScript(mapcfg::CCfgScript& script, const uint8_t* data, size_t size, const char* name) {
+  *mapcfg::sGetCfgLang() = static_cast<char>(data[0] & 1);
+  script.Open(WriteScratch(name, data + 1, size - 1).c_str(), 0);
+}
+
+// The bytes of an archive's stream.
+inline std::string Bytes(mapcfg::CFFArchive& a) {
+  uint32_t n = 0;
+  std::unique_ptr<uint8_t[]> bytes = a.ToData(n);
+  return std::string(reinterpret_cast<const char*>(bytes.get()), n);
 }
 
 // Empties every table and the extension and menu lists, and restores the

@@ -3,6 +3,7 @@
 #include "mapcfg/configuration.h"
 
 #include <iterator>
+#include <string>
 
 #include "mapcfg/catalogs.h"
 #include "mapcfg/describe.h"
@@ -13,6 +14,9 @@
 namespace mapcfg {
 
 namespace {
+
+static_assert(kPackLayoutVersion >= kMapRecordsVersion1 && kPackLayoutVersion >= kShapeTemplsVersion1,
+              "a pack must be read with the newest layout of every record it holds");
 
 constexpr const char* kPackMagic = "mapcfg configuration pack";
 
@@ -30,12 +34,31 @@ FieldTexts DescribeKind() {
 
 using Reader = String (*)(CFFArchive&, uint32_t);
 
+// The statistics templates, as one template file without a path.
+String WriteStatis(CFFArchive& a) { return sCfgWriteMapStat(a, ""); }
+String ReadStatis(CFFArchive& a, uint32_t version) { return sCfgReadMapStat("", a, version, 0); }
+FieldTexts DescribeStatis() {
+  FieldTexts all;
+  const RecordArray<_CfgStatTempl>& templs = *sCfgGetMapStatPtr();
+  for (size_t i = 0; i < templs.size(); ++i) {
+    for (FieldText& f : sDescribe(*templs[i])) {
+      f.name = "templs[" + std::to_string(i) + "]." + f.name;
+      all.push_back(std::move(f));
+    }
+  }
+  return all;
+}
+
 const Section kSections[] = {
     {"store", sCfgWriteMain, sCfgReadMain, sDescribeMainStore},
     {"wellloc", sCfgWriteMapWellLoc, Reader(sCfgReadMapWellLoc), DescribeKind<cfg::kWellLocationMap>},
     {"reserv", sCfgWriteMapReserv, Reader(sCfgReadMapReserv), DescribeKind<cfg::kReservoirProfileMap>},
     {"fence", sCfgWriteMapFence, Reader(sCfgReadMapFence), DescribeKind<cfg::kFenceMap>},
     {"correl", sCfgWriteMapCorrel, Reader(sCfgReadMapCorrel), DescribeKind<cfg::kMultiWellCorrelationMap>},
+    {"single", sCfgWriteMapSingle, Reader(sCfgReadMapSingle), DescribeKind<cfg::kSingleWellMap>},
+    {"planeshape", sCfgWritePlaneShapes, Reader(sCfgReadPlaneShapes), sDescribePlaneShapes},
+    {"migrate", sCfgWriteDataMigrate, Reader(sCfgReadDataMigrate), sDescribeDataMigrate},
+    {"statis", WriteStatis, ReadStatis, DescribeStatis},
 };
 
 }  // namespace
@@ -47,7 +70,8 @@ void sCfgReadAll(CCfgScript& script) {
         sCfgReadLithProps, sCfgReadColors, sCfgReadPrevColor, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
         sCfgReadGZFHs, sCfgReadTextFmts, sCfgReadDataSrcs, sCfgReadLabelCrvs, sCfgIsoLineProp,
         ScriptReader(sCfgReadMapWellLoc), ScriptReader(sCfgReadMapReserv), ScriptReader(sCfgReadMapFence),
-        ScriptReader(sCfgReadMapCorrel)})
+        ScriptReader(sCfgReadMapCorrel), ScriptReader(sCfgReadPlaneShapes), ScriptReader(sCfgReadDataMigrate),
+        ScriptReader(sCfgReadMapSingle)})
     read(script);
 }
 

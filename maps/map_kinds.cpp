@@ -12,6 +12,7 @@
 #include "mapcfg/maps.h"
 #include "maps/reader_keys.h"
 #include "maps/section_fields.h"
+#include "maps/single_well_fields.h"
 #include "maps/wellloc_fields.h"
 #include "store/config_strings.h"
 #include "store/store_state.h"
@@ -30,17 +31,21 @@ struct KindSet {
   RecordArray<_CurveParm> curves;
 };
 
+// The single-well map (the last kind) has its own layers and spacing only.
+constexpr int kKindCount = 5;
+constexpr cfg::Str kKinds[kKindCount] = {cfg::kWellLocationMap, cfg::kReservoirProfileMap, cfg::kFenceMap,
+                                         cfg::kMultiWellCorrelationMap, cfg::kSingleWellMap};
+
 struct KindSets {
-  KindSet sets[4];
+  KindSet sets[kKindCount];
 };
 
-constexpr cfg::Str kKinds[4] = {cfg::kWellLocationMap, cfg::kReservoirProfileMap, cfg::kFenceMap,
-                                cfg::kMultiWellCorrelationMap};
-
-// The set of the kind named `kind` in the current language, or null.
-KindSet* FindSet(const String& kind) {
-  for (int i = 0; i < 4; ++i)
-    if (kind == cfg::Name(kKinds[i])) return &detail::StoreTable<KindSets>().sets[i];
+// The set of the kind named `kind` in the current language, or null; the
+// single-well map's only when `single`.
+KindSet* FindSet(const String& kind, bool single = true) {
+  for (int i = 0; i < kKindCount; ++i)
+    if (kind == cfg::Name(kKinds[i]))
+      return single || kKinds[i] != cfg::kSingleWellMap ? &detail::StoreTable<KindSets>().sets[i] : nullptr;
   return nullptr;
 }
 
@@ -87,6 +92,19 @@ void Fields(V& v, WellLocStream&) {
   v("oldTest", *sCfgGetOldTestPropPtr());
 }
 
+struct SingleWellStream {};
+
+template <class V>
+void Fields(V& v, SingleWellStream&) {
+  KindSet& set = Set(cfg::kSingleWellMap);
+  _CfgMapSingle& registry = *sCfgGetMapSinglePtr();
+  v("layers", set.layers);
+  v("space", set.space);
+  v("mapProp", *sCfgGetDJTMapPropPtr());
+  v("names", registry.Names);
+  v("templs", registry.Templs);
+}
+
 template <class Stream>
 String Write(CFFArchive& a, Stream stream) {
   detail::PutRecord(a, stream);
@@ -119,15 +137,15 @@ void ReadSection(CCfgScript& script, cfg::Str kind) {
 }
 
 template <class R>
-R* Member(const String& kind, R KindSet::*member) {
-  KindSet* set = FindSet(kind);
+R* Member(const String& kind, R KindSet::*member, bool single = false) {
+  KindSet* set = FindSet(kind, single);
   return set ? &(set->*member) : nullptr;
 }
 
 }  // namespace
 
-_LayersProp* sCfgGetLayersPropPtr(const String& kind) { return Member(kind, &KindSet::layers); }
-_HVSpaceProp* sCfgGetHVSpacePropPtr(const String& kind) { return Member(kind, &KindSet::space); }
+_LayersProp* sCfgGetLayersPropPtr(const String& kind) { return Member(kind, &KindSet::layers, true); }
+_HVSpaceProp* sCfgGetHVSpacePropPtr(const String& kind) { return Member(kind, &KindSet::space, true); }
 _MapFrameProp* sCfgGetMapFramePropPtr(const String& kind) { return Member(kind, &KindSet::frame); }
 _LegendProp* sCfgGetLegendPropPtr(const String& kind) { return Member(kind, &KindSet::legend); }
 _ScaleProp* sCfgGetScalePropPtr(const String& kind) { return Member(kind, &KindSet::scale); }
@@ -135,6 +153,7 @@ RecordArray<_CurveParm>* sCfgGetCurveParmsPtr(const String& kind) { return Membe
 
 FieldTexts sDescribeMapKind(const String& kind) {
   if (kind == cfg::Name(cfg::kWellLocationMap)) return detail::DescribeRecord(WellLocStream{});
+  if (kind == cfg::Name(cfg::kSingleWellMap)) return detail::DescribeRecord(SingleWellStream{});
   for (cfg::Str k : {cfg::kReservoirProfileMap, cfg::kFenceMap, cfg::kMultiWellCorrelationMap})
     if (kind == cfg::Name(k)) return detail::DescribeRecord(SectionStream{k});
   return FieldTexts();
@@ -152,6 +171,10 @@ std::vector<int> sDescribeMapKindKeys(const String& kind) {
     detail::AppendMapRecordKeys(keys);
     detail::AppendSectionKeys(keys, k == cfg::kFenceMap);
     detail::AppendCurveKeys(keys);
+  }
+  if (kind == cfg::Name(cfg::kSingleWellMap)) {
+    detail::AppendLayerKeys(keys);
+    detail::AppendSingleWellKeys(keys);
   }
   return std::vector<int>(keys.begin(), keys.end());
 }
@@ -181,5 +204,14 @@ void sCfgReadMapWellLoc(CCfgScript& script) {
 }
 String sCfgWriteMapWellLoc(CFFArchive& a) { return Write(a, WellLocStream{}); }
 String sCfgReadMapWellLoc(CFFArchive& a, uint32_t version) { return Read(a, WellLocStream{}, version); }
+
+String sCfgWriteMapSingle(CFFArchive& a) {
+  if (!detail::DJTTreesWithinDepth(sCfgGetMapSinglePtr()->Templs)) {
+    ArchiveCore::Fail(a, kMsgLibraryFailure);
+    return a.GetLastError();
+  }
+  return Write(a, SingleWellStream{});
+}
+String sCfgReadMapSingle(CFFArchive& a, uint32_t version) { return Read(a, SingleWellStream{}, version); }
 
 }  // namespace mapcfg

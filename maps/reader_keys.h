@@ -14,6 +14,9 @@ void AppendSectionKeys(KeyList& keys, bool fence);
 // The keys of the well location map's own records.
 void AppendWellLocKeys(KeyList& keys);
 
+// The keys of the single-well chart properties ("Single Well Map").
+void AppendSingleWellKeys(KeyList& keys);
+
 }  // namespace detail
 }  // namespace mapcfg
 

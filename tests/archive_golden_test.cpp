@@ -199,6 +199,16 @@ Form CurveParms(uint32_t version) {
     return s;
   };
 }
+// A migration template (not copyable, so no start value) read with `version`
+// into a fresh one.
+Form MigraTempl(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    _MigraTempl v;
+    const int ok = in.GetMigraTempl(&v, version);
+    if (out) out->PutMigraTempl(&v);
+    return Text(ok) + Fields(v);
+  };
+}
 const _OldProdProp kProdStart{7, 7, 7, 7, 7, 7, kLineStart, kPattStart, kPattStart, kPattStart, kFontStart};
 const _OldTestProp kTestStart{7, 7, 7, kLineStart, kPattStart, kPattStart, kFontStart};
 template <class T>
@@ -208,9 +218,83 @@ Form Display(T start, int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*pu
 }
 const _JWTAutoParm kAutoStart{7, "start", -7.0f, 7, "start", 7, 7};
 const _JWTMapProp kMapStart{-7.0f, -7.0f, -7.0f, -7.0f, -7.0f};
+const _DJTMapProp kDJTMapStart{-7, -7, -7, "start", "start", "start"};
+const _DJTTrackProp kTrackPropStart{"start",    "start",    -7,         -7,         -7,         7,          -7,
+                                    -7,         -7,         -7,         -7,         kLineStart, kLineStart, kLineStart,
+                                    kFontStart, kFontStart, kFontStart, -7,         -7,         -7};
+// A track tree as name:left..right/second line's width(curve codes){children}.
+std::string TrackText(const _DJTTrack& t) {
+  std::string s = Text(t.Prop.Name) + ":" + Text(t.Prop.Left) + ".." + Text(t.Prop.Right) + "/" +
+                  Text(t.Prop.Line2.width) + "(";
+  for (const std::unique_ptr<_CurveParm>& c : t.Curves) s += Text(c->Code) + (c == t.Curves.back() ? "" : ";");
+  s += "){";
+  for (const std::unique_ptr<_DJTTrack>& k : t.Children) s += TrackText(*k) + (k == t.Children.back() ? "" : ",");
+  return s + "}";
+}
+std::string TracksText(const RecordArray<_DJTTrack>& tracks) {
+  std::string s;
+  for (const std::unique_ptr<_DJTTrack>& t : tracks) s += "[" + TrackText(*t) + "]";
+  return s;
+}
+std::string TemplText(const _DJTTempl& t) {
+  std::string s = Join(t.Name, t.Value) + "," + Join(t.Dbls[0], t.Dbls[1], t.Dbls[2], t.Dbls[3], t.Dbls[4]) +
+                  Fields(t.Line) + Fields(t.Font);
+  for (const String& text : t.Texts) s += "," + Text(text);
+  return s + "," + TracksText(t.Tracks);
+}
+// Tracks and templates read with `version` into empty records.
+Form DJTTrack(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    _DJTTrack t;
+    const int ok = in.GetDJTTrack(&t, version);
+    if (out) out->PutDJTTrack(&t);
+    return Text(ok) + "," + TrackText(t);
+  };
+}
+Form DJTTracks(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<_DJTTrack> tracks;
+    const int ok = in.GetDJTTrackArray(tracks, version);
+    if (out) out->PutDJTTrackArray(tracks);
+    return Text(ok) + TracksText(tracks);
+  };
+}
+Form DJTTempls(uint32_t version) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<_DJTTempl> templs;
+    const int ok = in.GetDJTTemplArray(templs, version);
+    if (out) out->PutDJTTemplArray(templs);
+    std::string s = Text(ok);
+    for (const std::unique_ptr<_DJTTempl>& t : templs) s += "[" + TemplText(*t) + "]";
+    return s;
+  };
+}
 const _StatusProp kStatusStart{"start", 7, -7, 7};
 const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
 const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
+
+// A statistics registry record read into a fresh record, and its array
+// form (each record in brackets).
+template <class T>
+Form Registry(int (CFFArchive::*get)(T*), int (CFFArchive::*put)(const T*)) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    T v{};
+    const int ok = (in.*get)(&v);
+    if (out) (out->*put)(&v);
+    return Text(ok) + Fields(v);
+  };
+}
+template <class T>
+Form RegistryArray(int (CFFArchive::*get)(RecordArray<T>&), int (CFFArchive::*put)(const RecordArray<T>&)) {
+  return [=](CFFArchive& in, CFFArchive* out) {
+    RecordArray<T> records;
+    const int ok = (in.*get)(records);
+    if (out) (out->*put)(records);
+    std::string s = Text(ok);
+    for (const std::unique_ptr<T>& r : records) s += "[" + Fields(*r).substr(1) + "]";
+    return s;
+  };
+}
 
 // The TestData listing from the read position, "\r\n" shown as ";" and
 // spaces as "_".
@@ -279,6 +363,24 @@ const std::map<std::string, Form> kForms = {
     {"scale", MapRecord(&CFFArchive::GetScaleProp, &CFFArchive::PutScaleProp, kMapRecordsVersion1)},
     {"curves", CurveParms(kMapRecordsVersion1)},
     {"curves_old", CurveParms(0x02007343)},
+    {"shapetempl", MapRecord(&CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, kShapeTemplsVersion1)},
+    {"shapetempl_old", MapRecord(&CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, 0x02007343)},
+    {"nodivi", MapRecord(&CFFArchive::GetNoDiviType, &CFFArchive::PutNoDiviType, kShapeTemplsVersion1)},
+    {"migraitem", MapRecord(&CFFArchive::GetMigraItem, &CFFArchive::PutMigraItem, kShapeTemplsVersion1)},
+    {"migratempl", MigraTempl(kShapeTemplsVersion1)},
+    {"statmember", Registry(&CFFArchive::GetStatMember, &CFFArchive::PutStatMember)},
+    {"statmeta", Registry(&CFFArchive::GetStatMetal, &CFFArchive::PutStatMetal)},
+    {"stattempl", Registry(&CFFArchive::GetStatTempl, &CFFArchive::PutStatTempl)},
+    {"statmembers", RegistryArray(&CFFArchive::GetStatMemberArray, &CFFArchive::PutStatMemberArray)},
+    {"statmetas", RegistryArray(&CFFArchive::GetStatMetalArray, &CFFArchive::PutStatMetalArray)},
+    {"stattempls", RegistryArray(&CFFArchive::GetStatTemplArray, &CFFArchive::PutStatTemplArray)},
+    {"djtmap", Catalog(kDJTMapStart, &CFFArchive::GetDJTMapProp, &CFFArchive::PutDJTMapProp)},
+    {"djtprop", Section(kTrackPropStart, &CFFArchive::GetDJTTrackProp, &CFFArchive::PutDJTTrackProp, 0x02017519)},
+    {"djtprop_old", Section(kTrackPropStart, &CFFArchive::GetDJTTrackProp, &CFFArchive::PutDJTTrackProp, 0x02017518)},
+    {"djttrack", DJTTrack(kMapRecordsVersion1)},
+    {"djttracks", DJTTracks(kMapRecordsVersion1)},
+    {"djttempls", DJTTempls(kMapRecordsVersion1)},
+    {"djttempls_old", DJTTempls(0x02017518)},
 };
 
 // True when exactly `n` bytes of the stream have been read.
@@ -293,7 +395,8 @@ bool Consumed(CFFArchive& a, size_t n) {
 // error=N and consumed=N the readers must fail with message N, having read
 // that many bytes.
 TEST(ArchiveGolden, ScalarsArraysCompositesRecordsAndInvalidStreams) {
-  for (const std::string name : {"scalars.hex", "arrays.hex", "composites.hex", "invalid.hex", "records.hex"}) {
+  for (const std::string name : {"scalars.hex", "arrays.hex", "composites.hex", "invalid.hex", "records.hex",
+                                 "stat_records.hex"}) {
     std::istringstream in(mapcfg_test::ReadAll(std::string(MAPCFG_TEST_DATA) + "/archive/" + name));
     ASSERT_TRUE(in.str().size() > 0) << name;
     int n = 0;

@@ -26,6 +26,8 @@ void ReadExample(char lang) {
   CCfgScript script;
   script.Open(lang ? MAPCFG_EXAMPLES "/zh/field.cfg" : MAPCFG_EXAMPLES "/en/field.cfg", 0);
   sCfgReadAll(script);
+  ASSERT_EQ(sCfgReadCTPFiles(MAPCFG_EXAMPLES "/stat"), "");
+  ASSERT_FALSE(sCfgGetMapStatPtr()->empty());
 }
 
 std::string Pack() {

@@ -49,6 +49,19 @@ std::string ReadAll(const std::string& path);
 std::string Iconv(const char* to, const char* from, std::string text);
 inline std::string GbkToUtf8(const std::string& gbk) { return Iconv("UTF-8", "GBK", gbk); }
 
+// `s` with ASCII letters in lower case, as the library compares names.
+inline std::string Folded(std::string s) {
+  for (char& c : s) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+  return s;
+}
+
+// Whether configuration string `key` can stand as a key row of a script
+// ("key = value"): not empty, nothing the reader takes for other syntax.
+inline bool CanBeKey(const std::string& key) {
+  return !key.empty() && key.find_first_of("=\r\n/[#:") == std::string::npos && Folded(key) != "begin" &&
+         Folded(key) != "end";
+}
+
 }  // namespace mapcfg_test
 
 #endif  // MAPCFG_TESTS_TEST_UTIL_H_

@@ -15,6 +15,7 @@
 #include "display_text.h"
 #include "input.h"
 #include "map_kinds.h"
+#include "store/config_strings.h"
 
 namespace mapcfg_tool {
 
@@ -26,6 +27,7 @@ struct Report {
   std::string file;  // as the user would write it, not escaped
   std::string code;
   std::string message;
+  std::string block = {};  // a duplicate key's block, folded
 };
 
 std::string Quote(const std::string& s) {
@@ -185,6 +187,7 @@ class Linter : public mapcfg::ScriptEvents {
     for (Frame& f : stack_) ++f.blocks;
     const Where here{file, line, name};
     const auto seen = blocks_.emplace(Folded(name), here);
+    if (seen.second) block_keys_[Folded(name)] = stack_.back().keys;
     if (!seen.second && !SamePlace(seen.first->second, here))
       Add(file, line, "duplicate-block",
           "block " + Quote(name) + " repeats the name of the block at " + At(seen.first->second) +
@@ -208,6 +211,27 @@ class Linter : public mapcfg::ScriptEvents {
       EndFile(stack_.back(), false);
       stack_.pop_back();
     }
+  }
+
+  // What the single-well templates' track trees hold that the reader
+  // cannot follow, in each language that has a template list.
+  void CheckTrackTrees(const mapcfg::CCfgScript& script) {
+    namespace cfg = mapcfg::cfg;
+    char& lang = *mapcfg::sGetCfgLang();
+    const char saved = lang;
+    for (char l : {0, 1}) {
+      const std::string list = mapcfg::sGetCfgStr(l, cfg::kSingleWellTemplate);
+      if (script.GetKeyCnt(list.c_str()) < 0) continue;
+      lang = l;
+      for (const mapcfg::DJTTreeFinding& f : mapcfg::sCfgCheckMapSingle(script)) TrackFinding(f);
+      // The list, template and track blocks are read key by key: their
+      // keys repeat by design.
+      const std::set<std::string> trees = TreeBlocks(script, list, l);
+      reports_.erase(std::remove_if(reports_.begin(), reports_.end(),
+                                    [&trees](const Report& r) { return trees.count(r.block) > 0; }),
+                     reports_.end());
+    }
+    lang = saved;
   }
 
   // Every report, by file (in the order they were read) and line.
@@ -296,22 +320,72 @@ class Linter : public mapcfg::ScriptEvents {
     cycles_[key] = {depth, r};
   }
 
+  // The template list `list`, the template blocks it names and every track
+  // block below them, folded.
+  static std::set<std::string> TreeBlocks(const mapcfg::CCfgScript& script, const std::string& list, char lang) {
+    namespace cfg = mapcfg::cfg;
+    std::set<std::string> seen = {Folded(list)};
+    std::vector<std::string> next;
+    for (int i = 0; i < script.GetKeyCnt(list.c_str()); ++i) next.push_back(script.GetKeyVal(list.c_str(), i));
+    const std::string curve = Folded(mapcfg::sGetCfgStr(lang, cfg::kCurve));
+    while (!next.empty()) {
+      const std::string block = next.back();
+      next.pop_back();
+      if (!seen.insert(Folded(block)).second) continue;
+      for (int i = 0; i < script.GetKeyCnt(block.c_str()); ++i) {
+        const std::string key = script.GetKeyName(block.c_str(), i);
+        if (Folded(key) != curve) next.push_back(key);
+      }
+    }
+    return seen;
+  }
+
+  void TrackFinding(const mapcfg::DJTTreeFinding& f) {
+    const auto keys = block_keys_.find(Folded(f.block));
+    if (keys == block_keys_.end() || f.key < 0 || static_cast<size_t>(f.key) >= keys->second.size()) return;
+    const Where& at = keys->second[static_cast<size_t>(f.key)];
+    const std::string track = (f.depth == 0 ? "template " : "track ") + Quote(f.name);
+    switch (f.kind) {
+      case mapcfg::DJTTreeFinding::kNamesAncestor:
+        Add(at.file, at.line, "track-cycle",
+            track + " names the block " + Quote(f.name) + ", which holds it (a cycle): the reader reads it " +
+                "inside itself again until the tree is " + std::to_string(mapcfg::kMaxTrackDepth) + " levels deep");
+        break;
+      case mapcfg::DJTTreeFinding::kNoBlock:
+        Add(at.file, at.line, "track-block-missing",
+            track + " has no block of that name: " +
+                (f.depth == 0 ? "the template has no tracks" : "the track has no curves and no child tracks"));
+        break;
+      case mapcfg::DJTTreeFinding::kTooDeep:
+        Add(at.file, at.line, "track-tree-cut",
+            track + " would lie deeper than " + std::to_string(mapcfg::kMaxTrackDepth) +
+                " levels: the reader does not read it");
+        break;
+      case mapcfg::DJTTreeFinding::kTooMany:
+        Add(at.file, at.line, "track-tree-cut",
+            "the reader stops before " + track + ": it reads at most " + std::to_string(mapcfg::kMaxTrackCount) +
+                " tracks and " + std::to_string(mapcfg::kMaxTrackRows) + " key rows of track blocks");
+        break;
+    }
+  }
+
   void CheckKeys(const std::string& block) {
-    char lang = 0;
-    const MapKind* kind = FindMapKind(block, &lang);
+    const BlockKeys known = FindBlockKeys(block);
     std::map<std::string, const Where*> first;
     for (const Where& k : stack_.back().keys) {
-      // A mistyped key of a map kind silently keeps its default.
-      if (kind && !k.text.empty() && !IsMapKey(*kind, lang, k.text))
+      // A mistyped key of a map kind or a template silently keeps its default.
+      if (known && !k.text.empty() && !known.Knows(k.text))
         Add(k.file, k.line, "unknown-key",
             "no reader of block " + Quote(block) + " reads the key " + Quote(k.text) +
                 " (mistyped?): what it would set keeps its default");
-      if (kind && IsRepeatedMapKey(lang, k.text)) continue;
+      if (known && known.Repeats(k.text)) continue;
       const auto seen = first.emplace(Folded(k.text), &k);
-      if (!seen.second)
+      if (!seen.second) {
         Add(k.file, k.line, "duplicate-key",
             "key " + Quote(k.text) + " repeats the key at line " + std::to_string(seen.first->second->line) +
                 " in block " + Quote(block) + ": it is unreachable by name");
+        reports_.back().block = Folded(block);
+      }
     }
     stack_.back().keys.clear();
   }
@@ -332,6 +406,7 @@ class Linter : public mapcfg::ScriptEvents {
   std::map<std::string, int> order_;  // file id -> place among the files read
   std::set<std::string> scanned_;
   std::map<std::string, Where> blocks_;
+  std::map<std::string, std::vector<Where>> block_keys_;  // the key rows of each name's first block
   std::map<std::string, std::pair<int, Report>> cycles_;  // file ids -> depth, report
   std::set<std::string> seen_;
   std::vector<Report> reports_;
@@ -370,6 +445,7 @@ int RunCheck(const Call& call) {
     mapcfg::CCfgScript script;
     try {
       script.Open(input.path().c_str(), 0, &linter);
+      linter.CheckTrackTrees(script);
     } catch (const ReadStopped& e) {
       linter.Stopped(e);
     }

@@ -13,6 +13,8 @@
 #include "display_text.h"
 #include "input.h"
 #include "map_kinds.h"
+#include "show_templates.h"
+#include "store/config_strings.h"
 
 namespace mapcfg_tool {
 
@@ -80,6 +82,39 @@ void Pairs(const Printer& p, const char* table, const char* what, const StringAr
     std::printf("  %s = %s\n", p.Text(names[i]).c_str(), i < values.size() ? p.Quoted(values[i]).c_str() : "");
 }
 
+// A table read from its own blocks as one list of named fields, one a line.
+void Listing(const Printer& p, const char* table, const char* what, const FieldTexts& fields) {
+  Heading(table, what, fields.size());
+  for (const FieldText& f : fields) std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
+}
+
+// A track and, indented below it, its curves and child tracks.
+void PrintTrack(const Printer& p, const mapcfg::_DJTTrack& t, int indent) {
+  const std::string pad(static_cast<size_t>(indent) * 2, ' ');
+  const mapcfg::_DJTTrackProp& q = t.Prop;
+  std::printf("%strack %s (%s): %s .. %s, width %s\n", pad.c_str(), p.Quoted(q.Name).c_str(), p.Quoted(q.Title).c_str(),
+              mapcfg::sToString(q.Left).c_str(), mapcfg::sToString(q.Right).c_str(), mapcfg::sToString(q.Width).c_str());
+  for (const auto& c : t.Curves)
+    std::printf("%s  curve %s (%s): %s .. %s, line %s %s\n", pad.c_str(), p.Quoted(c->Code).c_str(),
+                p.Quoted(c->Name).c_str(), mapcfg::sToString(c->Prop.LeftValue).c_str(),
+                mapcfg::sToString(c->Prop.RightValue).c_str(), mapcfg::sToString(c->Prop.Line.width).c_str(),
+                p.Color(c->Prop.Line.color).c_str());
+  for (const auto& child : t.Children) PrintTrack(p, *child, indent + 1);
+}
+
+// The single-well map: its properties, then each template as a tree.
+void PrintSingleWell(const Printer& p, const MapKind& kind) {
+  const mapcfg::_CfgMapSingle& registry = *mapcfg::sCfgGetMapSinglePtr();
+  Heading(kind.table, "single-well templates", registry.Templs.size());
+  for (const FieldText& f : mapcfg::sDescribeMapKind(mapcfg::sGetCfgStr(*mapcfg::sGetCfgLang(), kind.name_row)))
+    if (f.name.compare(0, 6, "templs") != 0 && f.name.compare(0, 5, "names") != 0)
+      std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
+  for (const auto& templ : registry.Templs) {
+    std::printf("  template %s\n", p.Quoted(templ->Name).c_str());
+    for (const auto& track : templ->Tracks) PrintTrack(p, *track, 2);
+  }
+}
+
 struct Table {
   const char* name;
   std::function<void(const Printer&)> print;
@@ -139,22 +174,25 @@ const std::vector<Table>& Tables() {
   };
   static const std::vector<Table> with_kinds = [] {
     std::vector<Table> all = tables;
-    for (const MapKind& kind : MapKinds()) all.push_back({kind.table, [&kind](const Printer& p) {
-                                                           const FieldTexts fields =
-                                                               sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), kind.name_row));
-                                                           Heading(kind.table, kind.what, fields.size());
-                                                           for (const FieldText& f : fields)
-                                                             std::printf("  %s = %s\n", f.name.c_str(), p.KindValue(f).c_str());
-                                                         }});
+    for (const MapKind& kind : MapKinds())
+      all.push_back({kind.table, [&kind](const Printer& p) {
+                       if (kind.name_row == mapcfg::cfg::kSingleWellMap) return PrintSingleWell(p, kind);
+                       Listing(p, kind.table, kind.what, sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), kind.name_row)));
+                     }});
+    for (const TemplateTable& t : TemplateTables())
+      all.push_back({t.table, [&t](const Printer& p) { Listing(p, t.table, t.what, t.describe()); }});
     return all;
   }();
   return with_kinds;
 }
 
-// The map kinds are read from their own blocks, not from the whole store.
-bool IsMapKindTable(const Table& t) {
+// The map kinds and the templates are read from their own blocks, not from
+// the whole store.
+bool IsOwnBlockTable(const Table& t) {
   for (const MapKind& kind : MapKinds())
     if (std::string(kind.table) == t.name) return true;
+  for (const TemplateTable& tt : TemplateTables())
+    if (std::string(tt.table) == t.name) return true;
   return false;
 }
 
@@ -166,6 +204,14 @@ int RunShow(const Call& call) {
   if (from_archive != call.operands.empty())
     return UsageError(from_archive ? "give scripts or --archive, not both" : "missing FILE... or --archive FILE");
   if (call.Has("--version") && !from_archive) return UsageError("--version goes with --archive");
+  // Statistics template files are shown as they are, not as tables.
+  size_t templates = 0;
+  for (const std::string& file : call.operands) templates += IsStatTemplateFile(file) ? 1 : 0;
+  if (templates > 0) {
+    if (templates != call.operands.size()) return UsageError("give scripts or statistics template files, not both");
+    if (call.Has("--table") || call.Has("--lang")) return UsageError("--table and --lang go with scripts");
+    return ShowStatTemplates(call.operands, raw);
+  }
   char lang = -1;
   if (call.Has("--lang") && !ParseLang(call.Value("--lang"), &lang))
     return UsageError("--lang takes en or zh, not '" + NameToDisplay(call.Value("--lang")) + "'");
@@ -213,12 +259,12 @@ int RunShow(const Call& call) {
     std::string why;
     if (!LoadScripts(call.operands, lang, &loaded, &why)) return Fail(1, why);
   }
-  if (only && !with_kinds && IsMapKindTable(*only))
-    return UsageError(std::string("the ") + only->name + " table is read from scripts or packs: the whole-store archive has no map kinds");
+  if (only && !with_kinds && IsOwnBlockTable(*only))
+    return UsageError(std::string("the ") + only->name + " table is read from scripts or packs: the whole-store archive has no map kinds and no templates");
 
   const Printer printer(raw);
   for (const Table& t : Tables())
-    if (only ? only == &t : with_kinds || !IsMapKindTable(t)) t.print(printer);
+    if (only ? only == &t : with_kinds || !IsOwnBlockTable(t)) t.print(printer);
   *mapcfg::sGetCfgLang() = saved_lang;
   return status;
 }

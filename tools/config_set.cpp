@@ -113,8 +113,21 @@ bool LoadConfig(const std::string& arg, char lang, LoadedConfig* loaded, std::st
   std::error_code ec;
   const fs::path path = mapcfg::sToNativePath(arg);
   if (fs::is_directory(path, ec)) {
-    fs::path plate = path;
-    if (fs::is_regular_file(path / "Config" / "Vantrope.cfg", ec) && !PlateOf(path, &plate, why)) return false;
+    // A configuration folder names its plate in its settings file, and keeps
+    // statistics templates in its folder "stat"; any other folder is a plate,
+    // of the configuration around it if there is one.
+    const auto is_configuration = [&ec](const fs::path& p) {
+      return fs::is_regular_file(p / "Config" / "Vantrope.cfg", ec);
+    };
+    fs::path plate = path, home;
+    if (is_configuration(path)) {
+      home = path;
+      if (!PlateOf(path, &plate, why)) return false;
+    } else {
+      fs::path clean = fs::absolute(path, ec).lexically_normal();
+      if (!clean.has_filename()) clean = clean.parent_path();
+      if (is_configuration(clean.parent_path())) home = clean.parent_path();
+    }
     if (!fs::is_directory(plate, ec)) {
       *why = "cannot read " + NameToDisplay(arg) + ": the plate folder " + NameToDisplay(plate.string()) + " does not exist";
       return false;
@@ -124,7 +137,18 @@ bool LoadConfig(const std::string& arg, char lang, LoadedConfig* loaded, std::st
       *why = "cannot read " + NameToDisplay(arg) + ": no scripts (*.cfg) in " + NameToDisplay(plate.string());
       return false;
     }
-    return LoadScripts(files, lang, loaded, why);
+    if (!LoadScripts(files, lang, loaded, why)) return false;
+    std::vector<fs::path> template_folders = {plate};
+    if (!home.empty()) template_folders.push_back(home / "stat");
+    for (const fs::path& folder : template_folders) {
+      if (!fs::is_directory(folder, ec)) continue;
+      const String error = mapcfg::sCfgReadCTPFiles(folder.string());
+      if (!error.empty()) {
+        *why = "cannot read the statistics templates of " + NameToDisplay(folder.string()) + ": " + ToDisplay(error, false);
+        return false;
+      }
+    }
+    return true;
   }
   if (arg != "-" && IsPackFile(arg)) {
     mapcfg::CFFArchive archive;

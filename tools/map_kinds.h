@@ -21,17 +21,43 @@ struct MapKind {
 // Well location, reservoir profile, fence and correlation maps.
 const std::vector<MapKind>& MapKinds();
 
-// The kind whose block is `block` in language `lang` (0 English, 1 Chinese),
-// ASCII case ignored as the reader does; null for any other block.
-const MapKind* FindMapKind(const std::string& block, char* lang);
+// The plane-shape and migration templates as the tool sees them.
+struct TemplateTable {
+  const char* table;  // show's table name: "planeshape"
+  const char* what;   // "plane-shape templates"
+  void (*read)(mapcfg::CCfgScript& script);
+  mapcfg::FieldTexts (*describe)();
+};
 
-// Whether a reader of `kind` looks up `key` in language `lang`, ASCII case
-// ignored.
-bool IsMapKey(const MapKind& kind, char lang, const std::string& key);
+const std::vector<TemplateTable>& TemplateTables();
 
-// The keys a block may repeat: "Curve" and "FillingCurve" (each row is one
-// curve or fill).
-bool IsRepeatedMapKey(char lang, const std::string& key);
+// The keys that the library's readers look up in one block, as check sees
+// them (null for a block no reader of known keys reads).
+class BlockKeys {
+ public:
+  BlockKeys() = default;
+  BlockKeys(const std::vector<int>* keys, const std::vector<int>* repeated, bool migration, char lang)
+      : keys_(keys), repeated_(repeated), migration_(migration), lang_(lang) {}
+  explicit operator bool() const { return keys_ != nullptr; }
+  // Whether a reader looks up `key` (ASCII case ignored). In a migration
+  // block every key without "|" names a template, and a key with one must
+  // have a name right before it and a parameter's suffix from it on.
+  bool Knows(const std::string& key) const;
+  // Whether each row of `key` is read (a curve, a division type), so that
+  // the key may repeat.
+  bool Repeats(const std::string& key) const;
+
+ private:
+  const std::vector<int>* keys_ = nullptr;
+  const std::vector<int>* repeated_ = nullptr;
+  bool migration_ = false;
+  char lang_ = 0;
+};
+
+// The keys of block `block` in either language, ASCII case ignored as the
+// readers do: the map kinds' blocks and the templates' blocks named by
+// configuration strings.
+BlockKeys FindBlockKeys(const std::string& block);
 
 }  // namespace mapcfg_tool
 

@@ -62,6 +62,20 @@ struct _OldTestProp;
 // Well location map (mapcfg/maps.h).
 struct _JWTAutoParm;
 struct _JWTMapProp;
+// Plane-shape and migration templates (mapcfg/maps.h).
+struct _PlaneShapeTempl;
+struct _NoDiviType;
+struct _MigraTempl;
+struct _MigraItem;
+// Statistics registry (mapcfg/maps.h).
+struct _StatTempl;
+struct _StatMeta;
+struct _StatMember;
+// Single-well charts (mapcfg/maps.h).
+struct _DJTMapProp;
+struct _DJTTrackProp;
+struct _DJTTrack;
+struct _DJTTempl;
 
 namespace detail {
 struct ArchiveCore;  // the archive's internal operations
@@ -285,6 +299,50 @@ class MAPCFG_EXPORT CFFArchive {
   int GetJWTAutoParm(_JWTAutoParm* parm);
   int PutJWTMapProp(const _JWTMapProp* prop);
   int GetJWTMapProp(_JWTMapProp* prop);
+  // Plane-shape and migration templates. Get... takes the version for the
+  // line and pattern records inside and for layouts after
+  // kShapeTemplsVersion1.
+  int PutPlaneShapeTempl(const _PlaneShapeTempl* templ);
+  int GetPlaneShapeTempl(_PlaneShapeTempl* templ, uint32_t version);
+  int PutNoDiviType(const _NoDiviType* type);
+  int GetNoDiviType(_NoDiviType* type, uint32_t version);
+  int PutMigraTempl(const _MigraTempl* templ);
+  int GetMigraTempl(_MigraTempl* templ, uint32_t version);
+  int PutMigraItem(const _MigraItem* item);
+  int GetMigraItem(_MigraItem* item, uint32_t version);
+  // Statistics registry records: a template and an item in the layout of
+  // the template file, read with the current version; a member as one
+  // String. The array forms: PutLong(count), then each record; the readers
+  // append.
+  int PutStatTempl(const _StatTempl* templ);
+  int GetStatTempl(_StatTempl* templ);
+  int PutStatMetal(const _StatMeta* meta);
+  int GetStatMetal(_StatMeta* meta);
+  int PutStatMember(const _StatMember* member);
+  int GetStatMember(_StatMember* member);
+  int PutStatTemplArray(const RecordArray<_StatTempl>& templs);
+  int GetStatTemplArray(RecordArray<_StatTempl>& templs);
+  int PutStatMetalArray(const RecordArray<_StatMeta>& metas);
+  int GetStatMetalArray(RecordArray<_StatMeta>& metas);
+  int PutStatMemberArray(const RecordArray<_StatMember>& members);
+  int GetStatMemberArray(RecordArray<_StatMember>& members);
+  // Single-well charts. A track is its properties, its curves and its
+  // children; the Get forms fail with error 539 on a track deeper than
+  // kMaxTrackDepth and the Put forms write nothing for a tree deeper than
+  // that (error 539, 0).
+  int PutDJTMapProp(const _DJTMapProp* prop);
+  int GetDJTMapProp(_DJTMapProp* prop);
+  int PutDJTTrackProp(const _DJTTrackProp* prop);
+  int GetDJTTrackProp(_DJTTrackProp* prop, uint32_t version);
+  int PutDJTTrack(const _DJTTrack* track);
+  int GetDJTTrack(_DJTTrack* track, uint32_t version);
+  int PutDJTTempl(const _DJTTempl* templ);
+  int GetDJTTempl(_DJTTempl* templ, uint32_t version);
+  // PutLong(count), then each record; the readers append.
+  int PutDJTTrackArray(const RecordArray<_DJTTrack>& tracks);
+  int GetDJTTrackArray(RecordArray<_DJTTrack>& tracks, uint32_t version);
+  int PutDJTTemplArray(const RecordArray<_DJTTempl>& templs);
+  int GetDJTTemplArray(RecordArray<_DJTTempl>& templs, uint32_t version);
   // Record arrays, as the value arrays below: PutLong(first.size()), then for
   // each index the record of `first`, then of `second` and `third` when
   // given. The readers append a new record per element, stop at the first

@@ -14,8 +14,9 @@
 
 namespace mapcfg {
 
-// The layout version of the streams a pack holds, handed to their readers.
-constexpr uint32_t kPackLayoutVersion = 0x03020001;
+// The layout version of the streams a pack holds, handed to their readers:
+// the newest layout of any record this library writes.
+constexpr uint32_t kPackLayoutVersion = 0x03030001;
 
 // Runs every script reader of the store on `script`, in the current
 // language: system parameters, extensions, catalogues, symbol tables, text
@@ -26,7 +27,9 @@ MAPCFG_EXPORT void sCfgReadAll(CCfgScript& script);
 // Writes the whole configuration as a pack: the text "mapcfg configuration
 // pack", Long kPackLayoutVersion, Byte language (*sGetCfgLang()), Long
 // number of sections, then each section as its name (String) and its
-// stream. Returns "" or the archive's error text.
+// stream: the whole store, the four map kinds, the plane-shape and
+// migration templates, and the statistics templates as one template file.
+// Returns "" or the archive's error text.
 MAPCFG_EXPORT String sCfgWritePack(CFFArchive& archive);
 
 // Reads a pack written by sCfgWritePack into the tables; `language`, when

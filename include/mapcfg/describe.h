@@ -46,6 +46,26 @@ MAPCFG_EXPORT FieldTexts sDescribe(const _OldProdProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _OldTestProp& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _JWTAutoParm& record);
 MAPCFG_EXPORT FieldTexts sDescribe(const _JWTMapProp& record);
+// Plane-shape and migration templates.
+MAPCFG_EXPORT FieldTexts sDescribe(const _PlaneShapeTempl& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _NoDiviType& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _MigraTempl& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _MigraItem& record);
+// The plane-shape table in the order of its stream (sCfgWritePlaneShapes):
+// "upPinchOut.Name" ... "noDiviTypes[0].Name".
+MAPCFG_EXPORT FieldTexts sDescribePlaneShapes();
+// The migration tables in the order of their stream (sCfgWriteDataMigrate):
+// "migrate[0].Name" ... "immigrate[0].Items[1].Source".
+MAPCFG_EXPORT FieldTexts sDescribeDataMigrate();
+// Statistics templates: every field, children and legend included
+// ("metas[0].children[1].name", "legend.2[0].name").
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatWhere& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatMeta& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _CfgStatTempl& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _StatMember& record);
+// Single-well chart records (a track's curves and children are not listed).
+MAPCFG_EXPORT FieldTexts sDescribe(const _DJTMapProp& record);
+MAPCFG_EXPORT FieldTexts sDescribe(const _DJTTrackProp& record);
 // Every table of the whole-store stream (sCfgWriteMain), in stream order:
 // "statusCodes[0]", "statusProps[0].name", "colors[3]" ...
 MAPCFG_EXPORT FieldTexts sDescribeMainStore();

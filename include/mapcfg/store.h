@@ -191,6 +191,17 @@ MAPCFG_EXPORT double cfgCoordOrg2DispSystem(char org, String* first, String* sec
 MAPCFG_EXPORT String sCfgWriteMain(CFFArchive& archive);
 MAPCFG_EXPORT String sCfgReadMain(CFFArchive& archive, uint32_t version);
 
+// --- Statistics template files -------------------------------------------------------
+// Loads the file at `path`; when it begins with the text "Statis", reads its
+// templates into the store (sCfgReadMapStat, mapcfg/maps.h) and returns ""
+// or the error text. A file that cannot be loaded or is of another kind is
+// skipped: "".
+MAPCFG_EXPORT String sCfgReadCTPFile(const char* path);
+// sCfgReadCTPFile on every file "*.ctp" of the folder `dir` (not its
+// subfolders), in name order without case; stops at the first error text
+// and returns it, else "".
+MAPCFG_EXPORT String sCfgReadCTPFiles(const String& dir);
+
 }  // namespace mapcfg
 
 #endif  // MAPCFG_STORE_H_

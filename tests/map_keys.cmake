@@ -1,0 +1,33 @@
+# The tool's lists of the keys the template readers look up (check's
+# unknown-key report) name exactly the keys those readers name. (The map
+# kinds' keys come from the library itself: sDescribeMapKindKeys.)
+#   -DSOURCE_DIR=<project folder>
+set(not_keys kWellLocationMap kReservoirProfileMap kFenceMap kMultiWellCorrelationMap kSingleWellMap kCurve
+             kFillingCurve)
+function(keys_of out)
+  set(all)
+  foreach(file IN LISTS ARGN)
+    file(READ "${SOURCE_DIR}/${file}" text)
+    string(REGEX MATCHALL "cfg::k[A-Za-z0-9_]+" found "${text}")
+    list(APPEND all ${found})
+  endforeach()
+  list(TRANSFORM all REPLACE "^cfg::" "")
+  list(REMOVE_DUPLICATES all)
+  list(REMOVE_ITEM all ${not_keys})
+  list(SORT all)
+  set(${out} "${all}" PARENT_SCOPE)
+endfunction()
+keys_of(readers maps/plane_shapes.cpp maps/data_migrate.cpp)
+keys_of(tool tools/map_kinds.cpp)
+if(NOT readers STREQUAL tool)
+  set(only_readers ${readers})
+  list(REMOVE_ITEM only_readers ${tool})
+  set(only_tool ${tool})
+  list(REMOVE_ITEM only_tool ${readers})
+  message(FATAL_ERROR "tools/map_kinds.cpp misses the reader keys [${only_readers}] and lists [${only_tool}], "
+                      "which no template reader names")
+endif()
+list(LENGTH tool n)
+if(n LESS 15)
+  message(FATAL_ERROR "found only ${n} keys")
+endif()
