@@ -1,13 +1,14 @@
 # Convenience targets; everything is CMake + Ninja underneath.
 BUILD   ?= build
 ASAN    ?= build-asan
+WIN     ?= build-win
 JOBS    ?= $(shell nproc)
 CMAKE_FLAGS ?=
 
 FUZZ_SECONDS ?= 60
 FUZZ_JOBS    ?= 2
 
-.PHONY: all build demo test test-asan bench fuzz install clean
+.PHONY: all build demo test test-asan test-windows bench fuzz install clean
 
 all: build
 
@@ -45,6 +46,15 @@ test-asan:
 	cmake --build $(ASAN) -j $(JOBS)
 	ctest --test-dir $(ASAN) --output-on-failure -j $(JOBS)
 
+# Cross-builds the library, resource DLLs, tool and tests for 64-bit Windows
+# with MinGW-w64 and runs every test under Wine (Debian: g++-mingw-w64-x86-64,
+# wine64, googletest).
+test-windows:
+	cmake -S . -B $(WIN) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DCMAKE_TOOLCHAIN_FILE=cmake/mingw-w64-x86_64.cmake $(CMAKE_FLAGS)
+	cmake --build $(WIN) -j $(JOBS)
+	ctest --test-dir $(WIN) --output-on-failure -j $(JOBS)
+
 bench:
 	cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DMAPCFG_BUILD_BENCH=ON -DMAPCFG_BUILD_TESTS=OFF
 	cmake --build build-bench -j $(JOBS)
@@ -63,4 +73,4 @@ install: build
 	cmake --install $(BUILD) --prefix $(or $(PREFIX),/usr/local)
 
 clean:
-	rm -rf $(BUILD) $(ASAN) build-bench build-fuzz
+	rm -rf $(BUILD) $(ASAN) $(WIN) build-bench build-fuzz

@@ -1,17 +1,10 @@
 // Splitting paths and working with files and directories.
-#include <sys/stat.h>
-#include <sys/types.h>
-
 #include <algorithm>
-#include <cstring>
+#include <filesystem>
+#include <system_error>
 
-#if defined(_WIN32)
-#include <direct.h>
-#include <io.h>
-#else
-#include <dirent.h>
-#endif
-
+#include "base/code_pages.h"
+#include "base/native_path.h"
 #include "base/text_bytes.h"
 #include "mapcfg/utils.h"
 
@@ -29,6 +22,17 @@ size_t LastSplit(const String& path) {
 }
 
 using detail::UpperAscii;
+
+// Index of the last separator of a pattern that names a file, or npos: as
+// LastSplit, except that in a GBK pattern the second byte of a character
+// (0x5C in 0x9C 0x5C) is no separator. UTF-8 has no such bytes.
+size_t LastPatternSplit(const String& pat) {
+  if (detail::IsUtf8(pat)) return LastSplit(pat);
+  size_t last = String::npos;
+  for (size_t i = 0; i < pat.size(); i += detail::CharLen(pat, i))
+    if (IsSep(pat[i]) || pat[i] == ':') last = i;
+  return last;
+}
 
 // Wildcard match of a file name: "*" any run, "?" any one byte; ASCII case is
 // ignored, as the suite's file system does.
@@ -58,47 +62,41 @@ struct Entry {
   bool dir;
 };
 
-bool StatPath(const String& path, bool* dir) {
-  struct stat st;
-  if (::stat(sToNativePath(path).c_str(), &st) != 0) return false;
-  *dir = (st.st_mode & S_IFMT) == S_IFDIR;
-  return true;
+namespace fs = std::filesystem;
+
+// What `p` is: -1 nothing, 0 a file (or anything else that is not a
+// folder), 1 a folder.
+int Kind(const fs::path& p) {
+  std::error_code ec;
+  const fs::file_status st = fs::status(p, ec);
+  if (!fs::exists(st)) return -1;
+  return fs::is_directory(st) ? 1 : 0;
 }
 
 // The entries matching `pattern`, in the order of their upper-cased names.
+// Only the last part of the pattern may hold wildcards; names are matched
+// without regard to ASCII case on every system.
 std::vector<Entry> Search(const char* pattern) {
   std::vector<Entry> found;
   if (!pattern || !*pattern) return found;
   const String pat = pattern;
-  const size_t split = LastSplit(pat);
+  const size_t split = LastPatternSplit(pat);
   const String name = split == String::npos ? pat : pat.substr(split + 1);
   if (name.find_first_of("*?") == String::npos) {
-    bool dir = false;
-    if (!name.empty() && StatPath(pat, &dir)) found.push_back({name, dir});
+    const int kind = name.empty() ? -1 : Kind(detail::ResolvePath(pat));
+    if (kind >= 0) found.push_back({name, kind == 1});
     return found;
   }
-  String folder = split == String::npos ? String() : pat.substr(0, split + 1);
-#if defined(_WIN32)
-  intptr_t h;
-  _finddata_t fd;
-  if ((h = _findfirst(pattern, &fd)) == -1) return found;
-  do {
-    if (std::strcmp(fd.name, ".") && std::strcmp(fd.name, ".."))
-      found.push_back({fd.name, (fd.attrib & _A_SUBDIR) != 0});
-  } while (_findnext(h, &fd) == 0);
-  _findclose(h);
-#else
-  const String native = sToNativePath(folder.empty() ? String(".") : folder);
-  DIR* d = ::opendir(native.c_str());
-  if (!d) return found;
-  while (const dirent* e = ::readdir(d)) {
-    if (!std::strcmp(e->d_name, ".") || !std::strcmp(e->d_name, "..")) continue;
-    if (!Match(name.c_str(), e->d_name)) continue;
-    bool dir = false;
-    if (StatPath(folder + e->d_name, &dir)) found.push_back({e->d_name, dir});
+  const String folder = split == String::npos ? String() : pat.substr(0, split + 1);
+  const fs::path native = folder.empty() ? fs::path(".") : detail::ResolvePath(folder);
+  std::error_code ec;
+  for (fs::directory_iterator it(native, ec), end; !ec && it != end; it.increment(ec)) {
+    const String entry = detail::LibraryName(it->path().filename());
+    if (!Match(name.c_str(), entry.c_str())) continue;
+    std::error_code kind_ec;
+    const fs::file_status st = it->status(kind_ec);
+    if (fs::exists(st)) found.push_back({entry, fs::is_directory(st)});
   }
-  ::closedir(d);
-#endif
   std::sort(found.begin(), found.end(), [](const Entry& a, const Entry& b) {
     return std::lexicographical_compare(a.name.begin(), a.name.end(), b.name.begin(), b.name.end(),
                                         [](char x, char y) {
@@ -109,12 +107,10 @@ std::vector<Entry> Search(const char* pattern) {
   return found;
 }
 
+// Makes one new folder; false when it exists already or cannot be made.
 bool MakeDir(const String& path) {
-#if defined(_WIN32)
-  return _mkdir(path.c_str()) == 0;
-#else
-  return ::mkdir(sToNativePath(path).c_str(), 0777) == 0;
-#endif
+  std::error_code ec;
+  return fs::create_directory(detail::ResolvePath(path), ec) && !ec;
 }
 
 }  // namespace

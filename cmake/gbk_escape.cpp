@@ -11,46 +11,9 @@
 #include <iterator>
 #include <string>
 
-#if defined(_WIN32)
-#include <windows.h>
-#else
-#include <iconv.h>
-#endif
+#include "base/code_pages.h"
 
 namespace {
-
-#if defined(_WIN32)
-bool Utf8ToGbk(const std::string& in, std::string& out) {
-  if (in.empty()) return true;
-  const int wide_len = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, in.data(), static_cast<int>(in.size()),
-                                           nullptr, 0);
-  if (wide_len <= 0) return false;
-  std::wstring wide(static_cast<size_t>(wide_len), L'\0');
-  MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, in.data(), static_cast<int>(in.size()), &wide[0], wide_len);
-  BOOL lossy = FALSE;
-  const int len = WideCharToMultiByte(936, WC_NO_BEST_FIT_CHARS, wide.data(), wide_len, nullptr, 0, nullptr, &lossy);
-  if (len <= 0 || lossy) return false;
-  out.assign(static_cast<size_t>(len), '\0');
-  WideCharToMultiByte(936, WC_NO_BEST_FIT_CHARS, wide.data(), wide_len, &out[0], len, nullptr, &lossy);
-  return !lossy;
-}
-#else
-bool Utf8ToGbk(const std::string& in, std::string& out) {
-  iconv_t cd = iconv_open("GBK", "UTF-8");
-  if (cd == reinterpret_cast<iconv_t>(-1)) return false;
-  std::string src = in;
-  out.assign(in.size() + 16, '\0');  // GBK never takes more bytes than UTF-8
-  char* in_p = &src[0];
-  size_t in_left = src.size();
-  char* out_p = &out[0];
-  size_t out_left = out.size();
-  const size_t r = iconv(cd, &in_p, &in_left, &out_p, &out_left);
-  iconv_close(cd);
-  if (r == static_cast<size_t>(-1) || in_left != 0) return false;
-  out.resize(out.size() - out_left);
-  return true;
-}
-#endif
 
 bool IsHexDigit(char c) {
   return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
@@ -70,7 +33,7 @@ int main(int argc, char** argv) {
   }
   const std::string utf8((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
   std::string gbk;
-  if (!Utf8ToGbk(utf8, gbk)) {
+  if (!mapcfg::detail::Utf8ToGbk(utf8, &gbk)) {
     std::cerr << "gbk_escape: " << argv[1] << " is not UTF-8 text that GBK can hold\n";
     return 1;
   }

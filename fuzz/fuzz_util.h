@@ -4,12 +4,13 @@
 #define MAPCFG_FUZZ_FUZZ_UTIL_H_
 
 #include <mapcfg/mapcfg.h>
-#include <unistd.h>
 
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
+#include <random>
 #include <string>
 
 namespace mapcfg_fuzz {
@@ -17,9 +18,15 @@ namespace mapcfg_fuzz {
 // A folder of this process's own for the scripts it writes.
 inline const std::string& ScratchDir() {
   static const std::string dir = [] {
-    char tmpl[] = "/tmp/mapcfg-fuzz-XXXXXX";
-    if (!mkdtemp(tmpl)) std::abort();
-    return std::string(tmpl);
+    namespace fs = std::filesystem;
+    std::random_device seed;
+    std::mt19937_64 random(seed());
+    for (int attempt = 0; attempt < 100; ++attempt) {
+      const fs::path p = fs::temp_directory_path() / ("mapcfg-fuzz-" + std::to_string(random() % 1000000000));
+      std::error_code ec;
+      if (fs::create_directory(p, ec)) return p.generic_string();
+    }
+    std::abort();
   }();
   return dir;
 }

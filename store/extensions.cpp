@@ -1,7 +1,7 @@
 // Extension libraries, external menu tools and extra functions.
 #include <stdexcept>
 
-#include "mapcfg/platform.h"
+#include "base/native_path.h"
 #include "mapcfg/store.h"
 #include "mapcfg/values.h"
 #include "store/module_loader.h"
@@ -32,7 +32,7 @@ void* sLoadDll(const char* file) {
   const int found = sAscFind(s.module_names, name, 1);
   if (found >= 0) return s.module_handles[static_cast<size_t>(found)];
   // A failed load is kept as a null handle, so it is never tried again.
-  void* module = detail::OpenModule(sToNativePath(name));
+  void* module = detail::OpenModule(detail::ResolvePath(name));
   const size_t at = static_cast<size_t>(~found);
   s.module_names.insert(s.module_names.begin() + static_cast<std::ptrdiff_t>(at), name);
   s.module_handles.insert(s.module_handles.begin() + static_cast<std::ptrdiff_t>(at), module);

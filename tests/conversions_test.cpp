@@ -187,7 +187,9 @@ TEST(Conversions, NumbersAndTextAsTheCLibrary) {
 // comma decimal point, as desktop hosts do with setlocale(LC_ALL, "").
 TEST(Conversions, IndependentOfHostLocale) {
   const std::string saved = std::setlocale(LC_ALL, nullptr);
-  if (!std::setlocale(LC_ALL, "de_DE.UTF-8") && !std::setlocale(LC_ALL, "de_DE.utf8"))
+  // POSIX names, then the Windows ones.
+  if (!std::setlocale(LC_ALL, "de_DE.UTF-8") && !std::setlocale(LC_ALL, "de_DE.utf8") &&
+      !std::setlocale(LC_ALL, "de-DE") && !std::setlocale(LC_ALL, "German_Germany.1252"))
     GTEST_SKIP() << "no German locale is installed";
   // The first number shows that the locale really is in force.
   const std::string text = Format("%.1f", 2.5) + " " + sToString(2.5) + " " + sToStdNumStr(-1234.5678, 2, 0, 0) +

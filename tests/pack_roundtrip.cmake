@@ -1,10 +1,10 @@
 # The example configuration packed by the tool, the pack read back and packed
 # again: the two files must be the same bytes, the pack must show its map
 # kinds, and it must hold the layout of the Chinese scripts.
-#   -DTOOL=<mapcfg>  -DEXAMPLES=<examples folder>  -DWORK=<scratch folder>
+#   -DTOOL=<mapcfg, after the emulator that runs it if any>  -DEXAMPLES=<examples folder>  -DWORK=<scratch folder>
 file(MAKE_DIRECTORY "${WORK}")
 function(run expect)
-  execute_process(COMMAND "${TOOL}" ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  execute_process(COMMAND ${TOOL} ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
   if(NOT status STREQUAL "${expect}")
     message(FATAL_ERROR "mapcfg ${ARGN}: exit ${status}, wanted ${expect}\n${out}${err}")
   endif()

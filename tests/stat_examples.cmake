@@ -1,9 +1,9 @@
 # The template files in examples/stat are exactly what the example host
 # writes.
-#   -DPROGRAM=<write_stat_templates> -DEXPECTED=<examples/stat> -DWORK=<scratch folder>
+#   -DPROGRAM=<write_stat_templates, after the emulator that runs it if any> -DEXPECTED=<examples/stat> -DWORK=<scratch folder>
 file(REMOVE_RECURSE "${WORK}")
 file(MAKE_DIRECTORY "${WORK}")
-execute_process(COMMAND "${PROGRAM}" "${WORK}" RESULT_VARIABLE status)
+execute_process(COMMAND ${PROGRAM} "${WORK}" RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
   message(FATAL_ERROR "${PROGRAM} ${WORK} failed: ${status}")
 endif()

@@ -1,20 +1,29 @@
 #include "test_util.h"
 
-#include <iconv.h>
 #include <mapcfg/store.h>
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
+
+#include "base/code_pages.h"
 
 namespace mapcfg_test {
 
 TempDir::TempDir() {
-  std::string tmpl = (std::filesystem::temp_directory_path() / "mapcfg-test-XXXXXX").string();
-  if (!mkdtemp(tmpl.data())) std::abort();
-  path_ = tmpl;
+  namespace fs = std::filesystem;
+  std::random_device seed;
+  std::mt19937_64 random(seed());
+  for (int attempt = 0; attempt < 100 && path_.empty(); ++attempt) {
+    const fs::path dir = fs::temp_directory_path() / ("mapcfg-test-" + std::to_string(random() % 1000000000));
+    std::error_code ec;
+    if (fs::create_directory(dir, ec)) path_ = dir.generic_string();
+  }
+  if (path_.empty()) std::abort();
 }
 
 TempDir::~TempDir() {
@@ -67,16 +76,12 @@ std::string ReadAll(const std::string& path) {
 }
 
 std::string Iconv(const char* to, const char* from, std::string text) {
-  const iconv_t cd = iconv_open(to, from);
-  if (cd == reinterpret_cast<iconv_t>(-1)) return "<no converter>";
-  // Between GBK and UTF-8 a character grows by half at most.
-  std::string out(text.size() * 2 + 4, '\0');
-  char *in = text.data(), *at = out.data();
-  size_t in_left = text.size(), out_left = out.size();
-  const size_t converted = iconv(cd, &in, &in_left, &at, &out_left);
-  iconv_close(cd);
-  out.resize(out.size() - out_left);
-  return converted == static_cast<size_t>(-1) ? std::string("<not ") + from + ">" : out;
+  const bool to_gbk = !std::strcmp(to, "GBK") && !std::strcmp(from, "UTF-8");
+  const bool to_utf8 = !std::strcmp(to, "UTF-8") && !std::strcmp(from, "GBK");
+  if (!to_gbk && !to_utf8) return "<no converter>";
+  std::string out;
+  const bool ok = to_gbk ? mapcfg::detail::Utf8ToGbk(text, &out) : mapcfg::detail::GbkToUtf8(text, &out);
+  return ok ? out : std::string("<not ") + from + ">";
 }
 
 }  // namespace mapcfg_test

@@ -44,7 +44,7 @@ class StoreGuard {
 // The whole content of a file, or "" when it cannot be read.
 std::string ReadAll(const std::string& path);
 
-// `text` converted from encoding `from` to `to` (iconv names), or
+// `text` converted from encoding `from` to `to` ("GBK" or "UTF-8"), or
 // "<not FROM>" when it is not valid in `from` or cannot be converted.
 std::string Iconv(const char* to, const char* from, std::string text);
 inline std::string GbkToUtf8(const std::string& gbk) { return Iconv("UTF-8", "GBK", gbk); }

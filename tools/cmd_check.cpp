@@ -138,7 +138,7 @@ class Linter : public mapcfg::ScriptEvents {
           shown + " is not followed: a script read from standard input has no folder to include from");
     } else if (!opened) {
       Unreadable kind;
-      const std::string why = WhyUnreadable(mapcfg::sToNativePath(target), &kind);
+      const std::string why = WhyUnreadable(ShownPath(target), &kind);
       if (kind == Unreadable::kFolder)
         Add(file, line, "include-folder", shown + " names a folder, not a file: ignored");
       else if (kind == Unreadable::kMissing || kind == Unreadable::kNo)
@@ -270,7 +270,7 @@ class Linter : public mapcfg::ScriptEvents {
     auto it = ids_.find(library_path);
     if (it != ids_.end()) return it->second;
     std::error_code ec;
-    const std::string native = mapcfg::sToNativePath(library_path);
+    const std::string native = ShownPath(library_path);
     const std::filesystem::path canonical = std::filesystem::weakly_canonical(native, ec);
     return ids_.emplace(library_path, ec ? native : canonical.string()).first->second;
   }

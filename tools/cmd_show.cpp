@@ -238,7 +238,7 @@ int RunShow(const Call& call) {
       if (v.empty() || *end) return UsageError("--version takes a number (0x hexadecimal or decimal), not '" + NameToDisplay(v) + "'");
     }
     const std::string& file = call.Value("--archive");
-    const std::string why = WhyUnreadable(mapcfg::sToNativePath(file));
+    const std::string why = WhyUnreadable(ShownPath(file));
     if (!why.empty()) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + why);
     mapcfg::CFFArchive archive;
     if (!archive.FromFile(file)) return Fail(1, "cannot read " + NameToDisplay(file) + ": " + archive.GetLastError());

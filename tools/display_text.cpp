@@ -1,51 +1,16 @@
 #include "display_text.h"
 
-#include <iconv.h>
-
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+
+#include "base/code_pages.h"
 
 namespace mapcfg_tool {
 
 namespace {
 
-// One converter per direction for the life of the process.
-class Converter {
- public:
-  Converter(const char* to, const char* from) : cd_(iconv_open(to, from)) {}
-  ~Converter() {
-    if (ok()) iconv_close(cd_);
-  }
-  Converter(const Converter&) = delete;
-  Converter& operator=(const Converter&) = delete;
-  bool ok() const { return cd_ != reinterpret_cast<iconv_t>(-1); }
-  // Converts all of `in`, appending to *out; false when any of it cannot be
-  // converted.
-  bool Convert(const char* in, size_t n, std::string* out) {
-    if (!ok()) return false;
-    iconv(cd_, nullptr, nullptr, nullptr, nullptr);
-    char* pin = const_cast<char*>(in);
-    size_t nin = n;
-    while (nin > 0) {
-      char buf[256];
-      char* pout = buf;
-      size_t nout = sizeof buf;
-      const size_t r = iconv(cd_, &pin, &nin, &pout, &nout);
-      out->append(buf, static_cast<size_t>(pout - buf));
-      if (r == static_cast<size_t>(-1) && pout == buf) return false;
-    }
-    return true;
-  }
-
- private:
-  iconv_t cd_;
-};
-
-Converter& FromGbk() {
-  static Converter c("UTF-8", "GBK");
-  return c;
-}
+using mapcfg::detail::Utf8Length;
 
 // One unit of a text: an ASCII byte, a character of the text's encoding (its
 // bytes and their UTF-8 form) or a byte that is neither.
@@ -55,19 +20,6 @@ struct Unit {
   size_t size;       // bytes it takes
   std::string utf8;  // kChar only
 };
-
-// Length of the UTF-8 sequence at bytes[i], or 0 when none starts there.
-size_t Utf8Length(const std::string& bytes, size_t i) {
-  const unsigned char c = static_cast<unsigned char>(bytes[i]);
-  size_t n = 0;
-  if (c >= 0xC2 && c <= 0xDF) n = 2;
-  else if (c >= 0xE0 && c <= 0xEF) n = 3;
-  else if (c >= 0xF0 && c <= 0xF4) n = 4;
-  if (n == 0 || i + n > bytes.size()) return 0;
-  for (size_t k = 1; k < n; ++k)
-    if ((static_cast<unsigned char>(bytes[i + k]) & 0xC0) != 0x80) return 0;
-  return n;
-}
 
 // Walks `bytes` unit by unit, reading them as GBK or as UTF-8.
 template <class F>
@@ -79,7 +31,7 @@ void ForEachUnit(const std::string& bytes, bool utf8, F&& f) {
       u.kind = Unit::kBad;
       if (utf8) {
         if (const size_t n = Utf8Length(bytes, i)) u = Unit{Unit::kChar, i, n, bytes.substr(i, n)};
-      } else if (i + 1 < bytes.size() && FromGbk().Convert(bytes.data() + i, 2, &u.utf8)) {
+      } else if (i + 1 < bytes.size() && mapcfg::detail::GbkToUtf8(bytes.substr(i, 2), &u.utf8)) {
         // One double-byte character at a time, so a bad pair costs one byte.
         u.kind = Unit::kChar;
         u.size = 2;
@@ -165,26 +117,9 @@ std::string JsonQuote(const std::string& text) {
 std::string NumberText(double value) { return Shortest(value); }
 std::string NumberText(float value) { return Shortest(value); }
 
-bool LooksLikeUtf8(const std::string& bytes) {
-  bool high = false;
-  for (size_t i = 0; i < bytes.size();) {
-    if (static_cast<unsigned char>(bytes[i]) < 0x80) {
-      ++i;
-      continue;
-    }
-    const size_t n = Utf8Length(bytes, i);
-    if (n == 0) return false;
-    high = true;
-    i += n;
-  }
-  return high;
-}
+bool LooksLikeUtf8(const std::string& bytes) { return mapcfg::detail::IsUtf8(bytes); }
 
-bool Utf8ToGbk(const std::string& utf8, std::string* gbk) {
-  static Converter to_gbk("GBK", "UTF-8");
-  gbk->clear();
-  return to_gbk.Convert(utf8.data(), utf8.size(), gbk);
-}
+bool Utf8ToGbk(const std::string& utf8, std::string* gbk) { return mapcfg::detail::Utf8ToGbk(utf8, gbk); }
 
 size_t FirstNonGbk(const std::string& bytes) {
   size_t bad = std::string::npos;

@@ -21,6 +21,22 @@ bool StartsWith(const std::string& s, const std::string& prefix) { return s.comp
 
 }  // namespace
 
+std::string ShownPath(const std::string& library_path) {
+#if defined(_WIN32)
+  // The same form as elsewhere, which Windows takes too: "\" becomes "/"
+  // wherever it is not the second byte of a GBK character.
+  std::string out = library_path;
+  for (size_t i = 0; i < out.size(); ++i) {
+    const unsigned char c = static_cast<unsigned char>(out[i]);
+    if (c >= 0x81 && c <= 0xFE) ++i;
+    else if (c == '\\') out[i] = '/';
+  }
+  return out;
+#else
+  return mapcfg::sToNativePath(library_path);
+#endif
+}
+
 std::string WhyUnreadable(const std::string& native, Unreadable* kind) {
   Unreadable unused;
   if (!kind) kind = &unused;
@@ -35,7 +51,7 @@ std::string WhyUnreadable(const std::string& native, Unreadable* kind) {
   *kind = Unreadable::kNotRegular;
   if (!fs::is_regular_file(st)) return "not a regular file (give \"-\" to read standard input)";
   *kind = Unreadable::kRefused;
-  std::FILE* f = std::fopen(native.c_str(), "rb");
+  std::FILE* f = mapcfg::sOpenFile(native, "rb");
   if (!f) return std::strerror(errno);
   std::fclose(f);
   *kind = Unreadable::kNo;
@@ -82,7 +98,7 @@ bool ScriptInput::Open(const std::string& arg, std::string* why) {
   std::random_device random;
   for (int attempt = 0; attempt < 100 && temp_dir_.empty() && !ec; ++attempt) {
     const fs::path dir = base / ("mapcfg-" + std::to_string(random()));
-    if (fs::create_directory(dir, ec)) temp_dir_ = dir.string();
+    if (fs::create_directory(dir, ec)) temp_dir_ = dir.generic_string();
   }
   if (temp_dir_.empty()) {
     *why = "cannot make a temporary folder for standard input" + (ec ? ": " + ec.message() : "");
@@ -100,13 +116,13 @@ bool ScriptInput::Open(const std::string& arg, std::string* why) {
 
 void StopUnlessRegular(const std::string& library_path) {
   std::error_code ec;
-  const fs::file_status st = fs::status(mapcfg::sToNativePath(library_path), ec);
+  const fs::file_status st = fs::status(ShownPath(library_path), ec);
   if (!ec && !fs::is_regular_file(st)) throw ReadStopped(library_path, "not a regular file");
 }
 
 std::string ScriptInput::Shown(const std::string& library_path) const {
   if (library_path == path_) return typed_;
-  const std::string native = mapcfg::sToNativePath(library_path);
+  const std::string native = ShownPath(library_path);
   if (!temp_dir_.empty() && StartsWith(native, temp_dir_ + "/")) {
     const std::string name = native.substr(temp_dir_.size() + 1);
     return name == kStdinName ? "<stdin>" : name;

@@ -14,6 +14,11 @@ namespace mapcfg_tool {
 // Standard input is read up to this many bytes; more is refused.
 constexpr size_t kMaxStdinBytes = 256u * 1024 * 1024;
 
+// A library path as the tool shows it and hands it to std::filesystem: the
+// platform path with "/" separators (Windows takes them too), so that
+// reports read the same on every system.
+std::string ShownPath(const std::string& library_path);
+
 enum class Unreadable { kNo, kMissing, kFolder, kNotRegular, kRefused };
 
 // Why the file at `native` (a platform path) cannot be read as a regular
@@ -45,7 +50,7 @@ class ScriptInput {
   const std::string& path() const { return path_; }
   bool from_stdin() const { return !temp_dir_.empty(); }
   // A path the library reports, shown as the user would write it: the file
-  // itself as typed, others with the platform's separators and without the
+  // itself as typed, others as ShownPath gives them and without the
   // "./" the tool added, the script from standard input as "<stdin>".
   std::string Shown(const std::string& library_path) const;
 

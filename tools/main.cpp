@@ -7,6 +7,18 @@
 
 #include "commands.h"
 
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+// After windows.h.
+#include <shellapi.h>
+
+#include <vector>
+
+#include "base/code_pages.h"
+#endif
+
 namespace mapcfg_tool {
 
 namespace {
@@ -176,7 +188,43 @@ std::string Folded(std::string text) {
 
 }  // namespace mapcfg_tool
 
+#if defined(_WIN32)
+namespace {
+
+// Windows hands main its arguments in the ANSI code page, which cannot hold
+// every name: the tool takes them as UTF-8 from the wide command line, as
+// on other systems. Its streams carry bytes (no CR added before LF), and a
+// console shows the UTF-8 it writes.
+std::vector<std::string> Utf8Arguments(int argc, char** argv) {
+  std::vector<std::string> args(argv, argv + argc);
+  int n = 0;
+  wchar_t** wide = CommandLineToArgvW(GetCommandLineW(), &n);
+  if (!wide) return args;
+  if (n == argc)
+    for (int i = 0; i < n; ++i) mapcfg::detail::FromWide(wide[i], mapcfg::detail::kCodePageUtf8, &args[i]);
+  LocalFree(wide);
+  return args;
+}
+
+void BinaryStreams() {
+  _setmode(_fileno(stdin), _O_BINARY);
+  _setmode(_fileno(stdout), _O_BINARY);
+  _setmode(_fileno(stderr), _O_BINARY);
+  SetConsoleOutputCP(CP_UTF8);
+}
+
+}  // namespace
+#endif
+
 int main(int argc, char** argv) {
+#if defined(_WIN32)
+  BinaryStreams();
+  std::vector<std::string> utf8 = Utf8Arguments(argc, argv);
+  std::vector<char*> utf8_argv;
+  for (std::string& a : utf8) utf8_argv.push_back(&a[0]);
+  utf8_argv.push_back(nullptr);
+  argv = utf8_argv.data();
+#endif
   int status = mapcfg_tool::Dispatch(argc, argv);
   // Whatever was written must have arrived: a full disk or a closed pipe is
   // an error, not a success with a shorter output.

@@ -402,7 +402,9 @@ class MAPCFG_EXPORT CFFArchive {
  private:
   friend struct detail::ArchiveCore;
 
+  MAPCFG_STD_MEMBERS_BEGIN
   String error_text_;
+  MAPCFG_STD_MEMBERS_END
   uint8_t* block_ = nullptr;  // memory block (malloc'd), block_capacity_ bytes
   size_t block_capacity_ = 0;
   uint32_t block_length_ = 0;  // physical length: the highest position written

@@ -149,9 +149,11 @@ class MAPCFG_EXPORT CCfgScript {
   const Block* FindBlock(const char* block) const;
   void AddBlock(Block&& block);
 
+  MAPCFG_STD_MEMBERS_BEGIN
   std::vector<Block> m_blocks;
   // ASCII-folded block name -> index of the first block of that name.
   std::unordered_map<std::string, int> m_index;
+  MAPCFG_STD_MEMBERS_END
 };
 
 // --- Value tokenising -------------------------------------------------------

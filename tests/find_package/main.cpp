@@ -10,7 +10,11 @@ int main(int argc, char** argv) {
   if (field != "12" || pos != 5) return 1;
   if (argc > 1) {
     *mapcfg::sGetHomeDirPtr() = argv[1];
+#if defined(_WIN32)
+    mapcfg::sLoadResoueceDLL(argc > 2 ? argv[2] : "mapcfg_res_en.dll");
+#else
     mapcfg::sLoadResoueceDLL(argc > 2 ? argv[2] : "mapcfg_res_en.so");
+#endif
     if (!mapcfg::sGetResourceModule() || mapcfg::sGetInfoStr(838).empty()) {
       std::fprintf(stderr, "no resource library in %s\n", argv[1]);
       return 1;
