@@ -8,9 +8,11 @@
 #include <string>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
+using mapcfg_test::Lines;
 
 namespace {
 
@@ -27,13 +29,6 @@ String Named(std::string english, char lang) {
     english.replace(open, close - open + 1, text);
   }
   return english;
-}
-
-// The fields of `fields` as "name=value", one a line.
-std::string Lines(const FieldTexts& fields) {
-  std::string s;
-  for (const FieldText& f : fields) s += f.name + "=" + f.value + "\n";
-  return s;
 }
 
 // The tables read from `script` (in language `lang`) by `read`, as `describe`
