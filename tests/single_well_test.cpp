@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -367,9 +368,7 @@ TEST(SingleWell, SeededRandomTreesRoundTripFieldByField) {
     CFFArchive in;
     RecordArray<_DJTTempl> back;
     ASSERT_EQ(mapcfg_test::Loaded(in, bytes).GetDJTTemplArray(back, 0xFFFFFFFFu), 1);
-    const FieldTexts want = Flat(templs), got = Flat(back);
-    ASSERT_EQ(got.size(), want.size());
-    for (size_t f = 0; f < want.size(); ++f) ASSERT_EQ(got[f].name + "=" + got[f].value, want[f].name + "=" + want[f].value);
+    ASSERT_EQ(mapcfg_test::Lines(Flat(back)), mapcfg_test::Lines(Flat(templs)));
     CFFArchive again;
     again.PutDJTTemplArray(back);
     EXPECT_EQ(mapcfg_test::Bytes(again), bytes);
@@ -405,13 +404,11 @@ TEST(SingleWell, StreamAndTheNestingLimit) {
   CFFArchive a;
   ASSERT_EQ(sCfgWriteMapSingle(a), "");
   const std::string bytes = mapcfg_test::Bytes(a);
-  const FieldTexts written = sDescribeMapKind("Single Well Map");
+  const std::string written = mapcfg_test::Lines(sDescribeMapKind("Single Well Map"));
   sCfgClearPlate();
   CFFArchive in;
   ASSERT_EQ(sCfgReadMapSingle(mapcfg_test::Loaded(in, bytes), 0xFFFFFFFFu), "");
-  const FieldTexts read = sDescribeMapKind("Single Well Map");
-  ASSERT_EQ(read.size(), written.size());
-  for (size_t f = 0; f < read.size(); ++f) EXPECT_EQ(read[f].name + "=" + read[f].value, written[f].name + "=" + written[f].value);
+  EXPECT_EQ(mapcfg_test::Lines(sDescribeMapKind("Single Well Map")), written);
   EXPECT_EQ(Size(*registry.Templs[0]->Tracks[0]).second, kMaxTrackDepth);
 
   // One level more: nothing is written; a stream that holds one fails.

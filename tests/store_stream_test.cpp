@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -117,17 +118,12 @@ TEST(StoreStream, SeededStoresReadBackFieldByField) {
   for (size_t n : {0u, 1u, 2u, 7u, 40u}) {
     ClearStore();
     FillStore(r, n);
-    const FieldTexts before = sDescribeMainStore();
+    const std::string before = mapcfg_test::Lines(sDescribeMainStore());
     const std::string bytes = Written();
     ClearStore();
     CFFArchive a;
     EXPECT_EQ(sCfgReadMain(mapcfg_test::Loaded(a, bytes), 0xFFFFFFFFu), "") << n;
-    const FieldTexts after = sDescribeMainStore();
-    ASSERT_EQ(after.size(), before.size()) << n;
-    for (size_t i = 0; i < before.size(); ++i) {
-      EXPECT_EQ(after[i].name, before[i].name);
-      EXPECT_EQ(after[i].value, before[i].value) << after[i].name;
-    }
+    EXPECT_EQ(mapcfg_test::Lines(sDescribeMainStore()), before) << n;
     EXPECT_EQ(Written(), bytes) << n;
   }
 }
@@ -188,14 +184,14 @@ TEST(StoreStream, ClearPlateEmptiesEveryTableWhereItStands) {
   mapcfg_test::StoreGuard guard;
   Random r(11);
   FillStore(r, 5);
-  const void* tables[] = {sCfgGetSysCfgParamPtr(), sCfgGetStatusCodesPtr(), sCfgGetStatusPropsPtr(),
-                          sCfgGetLithPropsPtr(),   sCfgGetColorsPtr(),      sCfgGetPrevColorPtr(),
-                          sCfgGetTextFmtsPtr(),    sCfgGetLabelCrvValsPtr()};
+  const auto tables = [] {
+    return std::vector<const void*>{sCfgGetSysCfgParamPtr(), sCfgGetStatusCodesPtr(), sCfgGetStatusPropsPtr(),
+                                    sCfgGetLithPropsPtr(),   sCfgGetColorsPtr(),      sCfgGetPrevColorPtr(),
+                                    sCfgGetTextFmtsPtr(),    sCfgGetLabelCrvValsPtr()};
+  };
+  const std::vector<const void*> before = tables();
   sCfgClearPlate();
-  const void* after[] = {sCfgGetSysCfgParamPtr(), sCfgGetStatusCodesPtr(), sCfgGetStatusPropsPtr(),
-                         sCfgGetLithPropsPtr(),   sCfgGetColorsPtr(),      sCfgGetPrevColorPtr(),
-                         sCfgGetTextFmtsPtr(),    sCfgGetLabelCrvValsPtr()};
-  for (size_t i = 0; i < std::size(tables); ++i) EXPECT_EQ(after[i], tables[i]) << i;
+  EXPECT_EQ(tables(), before);
   // What is left is the extension and menu lists (they belong to the host's
   // modules, not to the configuration), the empty system parameters and the
   // preset colours' zero slots.
