@@ -2,9 +2,13 @@
 #ifndef MAPCFG_TESTS_STORE_TEST_UTIL_H_
 #define MAPCFG_TESTS_STORE_TEST_UTIL_H_
 
+#include <gtest/gtest.h>
 #include <mapcfg/mapcfg.h>
 
+#include <fstream>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace mapcfg_test {
 
@@ -13,6 +17,21 @@ inline std::string Lines(const mapcfg::FieldTexts& fields) {
   std::string s;
   for (const mapcfg::FieldText& f : fields) s += f.name + "=" + f.value + "\n";
   return s;
+}
+
+// The tab-separated fields of the lines of a file in tests/data, without
+// empty lines and "#" comment lines (a trailing empty field is dropped).
+inline std::vector<std::vector<std::string>> ReadRows(const std::string& name) {
+  std::ifstream in(std::string(MAPCFG_TEST_DATA) + "/" + name, std::ios::binary);
+  EXPECT_TRUE(in.is_open()) << name;
+  std::vector<std::vector<std::string>> rows;
+  for (std::string line; std::getline(in, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    std::istringstream fields(line);
+    rows.emplace_back();
+    for (std::string field; std::getline(fields, field, '\t');) rows.back().push_back(field);
+  }
+  return rows;
 }
 
 }  // namespace mapcfg_test
