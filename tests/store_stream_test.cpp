@@ -100,11 +100,7 @@ void FillStore(Random& r, size_t n) {
   for (int i = 0; i < 16; ++i) sCfgGetPrevColorPtr()[i] = r.Word();
 }
 
-void ClearStore() {
-  sCfgClearPlate();
-  for (StringArray* list : {sCfgGetLibNamesPtr(), sCfgGetLibDllsPtr(), sCfgGetMenuNamesPtr(), sCfgGetMenuFunsPtr()})
-    list->clear();
-}
+using mapcfg_test::EmptyStore;
 
 std::string Written() {
   CFFArchive a;
@@ -116,11 +112,11 @@ TEST(StoreStream, SeededStoresReadBackFieldByField) {
   mapcfg_test::StoreGuard guard;
   Random r(20261124u);
   for (size_t n : {0u, 1u, 2u, 7u, 40u}) {
-    ClearStore();
+    EmptyStore();
     FillStore(r, n);
     const std::string before = mapcfg_test::Lines(sDescribeMainStore());
     const std::string bytes = Written();
-    ClearStore();
+    EmptyStore();
     CFFArchive a;
     EXPECT_EQ(sCfgReadMain(mapcfg_test::Loaded(a, bytes), 0xFFFFFFFFu), "") << n;
     EXPECT_EQ(mapcfg_test::Lines(sDescribeMainStore()), before) << n;
@@ -133,7 +129,7 @@ TEST(StoreStream, SeededStoresReadBackFieldByField) {
 // the tool's tests).
 TEST(StoreStream, ExampleStoreIsTheGoldenFile) {
   mapcfg_test::StoreGuard guard;
-  ClearStore();
+  EmptyStore();
   *sGetCfgLang() = 0;
   CCfgScript script;
   script.Open(MAPCFG_EXAMPLES "/en/field.cfg", 0);
@@ -147,7 +143,7 @@ TEST(StoreStream, ExampleStoreIsTheGoldenFile) {
 TEST(StoreStream, ReadingStopsAtTheFirstFailureAndKeepsWhatWasRead) {
   mapcfg_test::StoreGuard guard;
   Random r(7);
-  ClearStore();
+  EmptyStore();
   FillStore(r, 3);
   // Steps 1 to 6 only: system parameters, extension and menu lists, the
   // three catalogues, colours.
@@ -166,7 +162,7 @@ TEST(StoreStream, ReadingStopsAtTheFirstFailureAndKeepsWhatWasRead) {
   const FieldTexts full = sDescribeMainStore();
   const std::string bytes = mapcfg_test::Bytes(a);
 
-  ClearStore();
+  EmptyStore();
   CFFArchive in;
   EXPECT_EQ(sCfgReadMain(mapcfg_test::Loaded(in, bytes), 0xFFFFFFFFu), sGetInfoStr(838));
   const FieldTexts read = sDescribeMainStore();

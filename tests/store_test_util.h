@@ -12,11 +12,20 @@
 
 namespace mapcfg_test {
 
-// The fields as "name=value", one a line.
-inline std::string Lines(const mapcfg::FieldTexts& fields) {
+// The fields as "name=value", one a line; the fields that `name_only` picks
+// (when given) as their names alone.
+inline std::string Lines(const mapcfg::FieldTexts& fields, bool (*name_only)(const mapcfg::String&) = nullptr) {
   std::string s;
-  for (const mapcfg::FieldText& f : fields) s += f.name + "=" + f.value + "\n";
+  for (const mapcfg::FieldText& f : fields) s += f.name + (name_only && name_only(f.name) ? "" : "=" + f.value) + "\n";
   return s;
+}
+
+// Every table, and the extension and menu lists, which outlive a plate.
+inline void EmptyStore() {
+  mapcfg::sCfgClearPlate();
+  for (mapcfg::StringArray* list : {mapcfg::sCfgGetLibNamesPtr(), mapcfg::sCfgGetLibDllsPtr(),
+                                    mapcfg::sCfgGetMenuNamesPtr(), mapcfg::sCfgGetMenuFunsPtr()})
+    list->clear();
 }
 
 // The tab-separated fields of the lines of a file in tests/data, without
