@@ -43,6 +43,12 @@ std::string ReadTable(const String& script, char lang, void (*read)(CCfgScript&)
   return Lines(describe());
 }
 
+// Both tables read from one script.
+void ReadBoth(CCfgScript& script) {
+  sCfgReadPlaneShapes(script);
+  sCfgReadDataMigrate(script);
+}
+
 // A template's fields as the stream lists them, from Name to TipPatt.name.
 std::string Templ(const std::string& role, const std::string& values) {
   static const char* const kNames[] = {"Name",       "DivisionLength", "DiviInterval",   "MinTipNumber",
@@ -194,11 +200,7 @@ TEST(PlateTemplates, ClearPlateEmptiesAndCopiesStandAlone) {
       "Config: Pinch-out\nBegin\nUpPinch-outTemplate = T\nEnd\nConfig: T\nBegin\ntip = 1; 2; Dash\nEnd\n"
       "Config: Division\nBegin\nNoBoundDiviType = A; 1\nEnd\n"
       "Config: Data_Migrate\nBegin\nOut = A: B\nEnd\nConfig: Data_Immigrate\nBegin\nIn = C\nEnd\n";
-  ReadTable(script, 0, sCfgReadPlaneShapes, sDescribePlaneShapes);
-  mapcfg_test::TempDir dir;
-  CCfgScript s;
-  s.Open(dir.Write("c.cfg", script).c_str(), 0);
-  sCfgReadDataMigrate(s);
+  ReadTable(script, 0, ReadBoth, sDescribePlaneShapes);
   ASSERT_EQ(sCfgGetPlaneShapeTemplPtr(kUpPinchOut)->Name, "T");
   ASSERT_EQ(sCfgGetNoDiviTypesPtr()->size(), 1u);
   ASSERT_EQ(sCfgGetImmigraTemplsPtr()->size(), 1u);
@@ -233,11 +235,7 @@ TEST(PlateTemplates, StreamsRoundTripAndOlderArchivesHoldNone) {
       "Config: Division\nBegin\nNoBoundDiviType = A; 1; Mud\nNoBoundDiviType = B\nEnd\n"
       "Config: Data_Migrate\nBegin\nOut = A: B; C\nOut|DIP Parameter = 0WELL_ID; 1MD\nEnd\n"
       "Config: Data_Immigrate\nBegin\nIn = C\nIn|Main key Parallelism = C\nIn2 = D\nEnd\n";
-  const std::string shapes = ReadTable(script, 0, sCfgReadPlaneShapes, sDescribePlaneShapes);
-  mapcfg_test::TempDir dir;
-  CCfgScript s;
-  s.Open(dir.Write("s.cfg", script).c_str(), 0);
-  sCfgReadDataMigrate(s);
+  const std::string shapes = ReadTable(script, 0, ReadBoth, sDescribePlaneShapes);
   const std::string migra = Lines(sDescribeDataMigrate());
 
   CFFArchive a;
