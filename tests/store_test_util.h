@@ -20,6 +20,15 @@ inline std::string Lines(const mapcfg::FieldTexts& fields, bool (*name_only)(con
   return s;
 }
 
+// The values of a record's fields (as the describer gives them) joined by
+// ",".
+template <class R>
+std::string Values(const R& record) {
+  std::string s;
+  for (const mapcfg::FieldText& f : mapcfg::sDescribe(record)) s += "," + f.value;
+  return s.erase(0, 1);
+}
+
 // Every table, and the extension and menu lists, which outlive a plate.
 inline void EmptyStore() {
   mapcfg::sCfgClearPlate();
