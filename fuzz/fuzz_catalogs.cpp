@@ -10,17 +10,9 @@
 #include <memory>
 #include <string>
 
-#include "fuzz_util.h"
+#include "fuzz_common.h"
 
 namespace {
-
-std::string Stream() {
-  mapcfg::CFFArchive a;
-  if (!mapcfg::sCfgWriteMain(a).empty()) std::abort();
-  uint32_t n = 0;
-  std::unique_ptr<uint8_t[]> bytes = a.ToData(n);
-  return std::string(reinterpret_cast<const char*>(bytes.get()), n);
-}
 
 void Decompose(std::string description) {
   using namespace mapcfg;
@@ -37,10 +29,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace mapcfg;
   if (size == 0) return 0;
   mapcfg_fuzz::StoreReset reset;
-  *sGetCfgLang() = static_cast<char>(data[0] & 1);
-  const std::string path = mapcfg_fuzz::WriteScratch("main.cfg", data + 1, size - 1);
   CCfgScript script;
-  script.Open(path.c_str(), 0);
+  mapcfg_fuzz::OpenScript(script, data, size, "main.cfg");
   for (auto read : {sCfgReadSysCfgParam, sCfgReadLibDlls, sCfgReadMenuFuns, sCfgReadStatusProps,
                     sCfgReadInterpretProps, sCfgReadLithProps, sCfgReadYQXSs, sCfgReadHYWs, sCfgReadYXQZs,
                     sCfgReadGZFHs, sCfgReadColors, sCfgReadPrevColor, sCfgReadTextFmts, sCfgReadDataSrcs,
@@ -60,11 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   (void)cfgDepthOrg2DispSystem(static_cast<char>(size), nullptr, nullptr);
 
   // The store through its stream and back, byte for byte.
-  const std::string first = Stream();
-  mapcfg_fuzz::StoreReset::Clear();
-  CFFArchive in;
-  in.FromData(first.data(), static_cast<uint32_t>(first.size()));
-  if (!sCfgReadMain(in, 0xFFFFFFFFu).empty()) std::abort();
-  if (Stream() != first) std::abort();
+  mapcfg_fuzz::StoreStable([](CFFArchive& a) { return sCfgWriteMain(a).empty(); },
+                           [](CFFArchive& a) { return sCfgReadMain(a, mapcfg_fuzz::kCurrent).empty(); });
   return 0;
 }

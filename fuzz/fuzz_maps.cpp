@@ -10,19 +10,7 @@
 #include <memory>
 #include <string>
 
-#include "fuzz_util.h"
-
-namespace {
-
-std::string Streams() {
-  mapcfg::CFFArchive a;
-  if (!mapcfg::sCfgWriteMapWellLoc(a).empty() || !mapcfg::sCfgWriteMapReserv(a).empty() ||
-      !mapcfg::sCfgWriteMapFence(a).empty() || !mapcfg::sCfgWriteMapCorrel(a).empty())
-    std::abort();
-  return mapcfg_fuzz::Bytes(a);
-}
-
-}  // namespace
+#include "fuzz_common.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace mapcfg;
@@ -37,14 +25,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   // The kinds' display names are configuration strings 338 to 341.
   for (int kind = 338; kind <= 341; ++kind) (void)sDescribeMapKind(sGetCfgStr(*sGetCfgLang(), kind));
 
-  const std::string first = Streams();
-  mapcfg_fuzz::StoreReset::Clear();
-  CFFArchive in;
-  in.FromData(first.data(), static_cast<uint32_t>(first.size()));
-  const uint32_t kCurrent = 0xFFFFFFFFu;
-  if (!sCfgReadMapWellLoc(in, kCurrent).empty() || !sCfgReadMapReserv(in, kCurrent).empty() ||
-      !sCfgReadMapFence(in, kCurrent).empty() || !sCfgReadMapCorrel(in, kCurrent).empty())
-    std::abort();
-  if (Streams() != first) std::abort();
+  mapcfg_fuzz::StoreStable(
+      [](CFFArchive& a) {
+        return sCfgWriteMapWellLoc(a).empty() && sCfgWriteMapReserv(a).empty() && sCfgWriteMapFence(a).empty() &&
+               sCfgWriteMapCorrel(a).empty();
+      },
+      [](CFFArchive& a) {
+        const uint32_t v = mapcfg_fuzz::kCurrent;
+        return sCfgReadMapWellLoc(a, v).empty() && sCfgReadMapReserv(a, v).empty() && sCfgReadMapFence(a, v).empty() &&
+               sCfgReadMapCorrel(a, v).empty();
+      });
   return 0;
 }

@@ -13,7 +13,7 @@
 #include <cstring>
 #include <string>
 
-#include "fuzz_util.h"
+#include "fuzz_common.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ void Use(const R& r, int (mapcfg::CFFArchive::*put)(const R*)) {
   (void)mapcfg::sDescribe(r);
 }
 
-constexpr uint32_t kCurrent = 0xFFFFFFFFu;
+using mapcfg_fuzz::kCurrent;
 const mapcfg::_DJTTrack* Arg(const mapcfg::_DJTTrack& r) { return &r; }
 const mapcfg::_DJTTempl* Arg(const mapcfg::_DJTTempl& r) { return &r; }
 template <class R>
@@ -40,27 +40,17 @@ int Get(mapcfg::CFFArchive& a, mapcfg::RecordArray<mapcfg::_DJTTempl>& r) { retu
 // read back to the same bytes.
 template <class R, class Put>
 void Tree(R& r, Put put) {
-  mapcfg::CFFArchive out, again;
-  if (!(out.*put)(Arg(r))) std::abort();
-  const std::string bytes = mapcfg_fuzz::Bytes(out);
-  mapcfg::CFFArchive in;
-  in.FromData(bytes.data(), static_cast<uint32_t>(bytes.size()));
-  R back{};
-  if (!Get(in, back)) std::abort();
-  (again.*put)(Arg(back));
-  if (mapcfg_fuzz::Bytes(again) != bytes) std::abort();
+  mapcfg_fuzz::Stable(r, [put](mapcfg::CFFArchive& a, const R& v) { if (!(a.*put)(Arg(v))) std::abort(); },
+                      [](mapcfg::CFFArchive& a, R& v) { return Get(a, v) != 0; });
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace mapcfg;
-  if (size < 5) return 0;
-  uint32_t version = 0;
-  std::memcpy(&version, data, 4);
-  const uint8_t op = data[4];
-  CFFArchive a;
-  a.FromData(data + 5, static_cast<uint32_t>(size - 5));
+  mapcfg_fuzz::StreamInput input;
+  if (!input.Parse(data, size)) return 0;
+  auto& [version, op, a] = input;
   mapcfg_fuzz::StoreReset reset;
   switch (op % 37) {
     case 0: { LINE_PROP r{}; a.GetLineProp(r, version); (void)sDescribe(r); break; }

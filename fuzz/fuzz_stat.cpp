@@ -13,56 +13,34 @@
 #include <cstring>
 #include <string>
 
-#include "fuzz_util.h"
+#include "fuzz_common.h"
 
 namespace {
 
 using namespace mapcfg;
 
-std::string Bytes(CFFArchive& a) {
-  uint32_t n = 0;
-  const auto data = a.ToData(n);
-  return std::string(reinterpret_cast<const char*>(data.get()), n);
-}
-
-// Writes `r` with `write`, reads it back with `read` (current layout) into
-// a fresh record and writes that again: the two streams must agree.
-template <class R, class Write, class Read>
-void Stable(const R& r, Write write, Read read) {
-  CFFArchive first;
-  write(first, r);
-  const std::string bytes = Bytes(first);
-  R again;
-  CFFArchive in;
-  in.FromData(bytes.data(), static_cast<uint32_t>(bytes.size()));
-  if (!read(in, again).empty()) std::abort();
-  CFFArchive second;
-  write(second, again);
-  if (Bytes(second) != bytes) std::abort();
-  (void)sDescribe(r);
-}
+using mapcfg_fuzz::Stable;
 
 void CheckTempl(const _CfgStatTempl& t) {
   Stable(t, [](CFFArchive& a, const _CfgStatTempl& r) { sCfgWriteMapStat_Templ(a, &r); },
-         [](CFFArchive& a, _CfgStatTempl& r) { return sCfgReadMapStat_Templ(a, &r, 0xFFFFFFFFu); });
+         [](CFFArchive& a, _CfgStatTempl& r) { return sCfgReadMapStat_Templ(a, &r, 0xFFFFFFFFu).empty(); });
+  (void)sDescribe(t);
   (void)sCfgTemplClone(&t);
 }
 
 void CheckMeta(const _CfgStatMeta& m) {
   Stable(m, [](CFFArchive& a, const _CfgStatMeta& r) { sCfgWriteMapStat_Meta(a, &r); },
-         [](CFFArchive& a, _CfgStatMeta& r) { return sCfgReadMapStat_Meta(a, &r, 0xFFFFFFFFu); });
+         [](CFFArchive& a, _CfgStatMeta& r) { return sCfgReadMapStat_Meta(a, &r, 0xFFFFFFFFu).empty(); });
+  (void)sDescribe(m);
   (void)sCfgMetaClone(&m);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  if (size < 5) return 0;
-  uint32_t version = 0;
-  std::memcpy(&version, data, 4);
-  const uint8_t op = data[4];
-  CFFArchive a;
-  a.FromData(data + 5, static_cast<uint32_t>(size - 5));
+  mapcfg_fuzz::StreamInput input;
+  if (!input.Parse(data, size)) return 0;
+  auto& [version, op, a] = input;
   mapcfg_fuzz::StoreReset reset;
   switch (op % 12) {
     case 0:
@@ -81,7 +59,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
       _CfgStatWhere w;
       (void)sCfgReadMapStat_Where(a, &w, version);
       Stable(w, [](CFFArchive& out, const _CfgStatWhere& r) { sCfgWriteMapStat_Where(out, &r); },
-             [](CFFArchive& in, _CfgStatWhere& r) { return sCfgReadMapStat_Where(in, &r, 0xFFFFFFFFu); });
+             [](CFFArchive& in, _CfgStatWhere& r) { return sCfgReadMapStat_Where(in, &r, 0xFFFFFFFFu).empty(); });
+      (void)sDescribe(w);
       break;
     }
     case 5: { _StatTempl t; a.GetStatTempl(&t); CheckTempl(t); CFFArchive out; out.PutStatTempl(&t); break; }

@@ -15,94 +15,35 @@
 #include <memory>
 #include <string>
 
-#include "fuzz_util.h"
+#include "fuzz_common.h"
 
 namespace {
 
 using namespace mapcfg;
 
-constexpr uint32_t kCurrent = 0xFFFFFFFFu;
-
-std::string Bytes(CFFArchive& a) {
-  uint32_t n = 0;
-  std::unique_ptr<uint8_t[]> bytes = a.ToData(n);
-  return std::string(reinterpret_cast<const char*>(bytes.get()), n);
-}
-
-std::string Tables() {
-  CFFArchive a;
-  if (!sCfgWritePlaneShapes(a).empty() || !sCfgWriteDataMigrate(a).empty()) std::abort();
-  return Bytes(a);
-}
+using mapcfg_fuzz::kCurrent;
+using mapcfg_fuzz::Stable;
 
 // The tables through their streams and back.
 void TablesRoundTrip() {
   (void)sDescribePlaneShapes();
   (void)sDescribeDataMigrate();
-  const std::string first = Tables();
-  mapcfg_fuzz::StoreReset::Clear();
-  CFFArchive in;
-  in.FromData(first.data(), static_cast<uint32_t>(first.size()));
-  if (!sCfgReadPlaneShapes(in, kCurrent).empty() || !sCfgReadDataMigrate(in, kCurrent).empty()) std::abort();
-  if (Tables() != first) std::abort();
-}
-
-// A record that a reader left, through its layout and back.
-template <class R>
-void RecordRoundTrip(const R& r, int (CFFArchive::*put)(const R*), int (CFFArchive::*get)(R*, uint32_t)) {
-  (void)sDescribe(r);
-  CFFArchive out;
-  (out.*put)(&r);
-  const std::string first = Bytes(out);
-  CFFArchive in;
-  in.FromData(first.data(), static_cast<uint32_t>(first.size()));
-  R again{};
-  if (!(in.*get)(&again, kCurrent)) std::abort();
-  CFFArchive out2;
-  (out2.*put)(&again);
-  if (Bytes(out2) != first) std::abort();
+  mapcfg_fuzz::StoreStable(
+      [](CFFArchive& a) { return sCfgWritePlaneShapes(a).empty() && sCfgWriteDataMigrate(a).empty(); },
+      [](CFFArchive& a) { return sCfgReadPlaneShapes(a, kCurrent).empty() && sCfgReadDataMigrate(a, kCurrent).empty(); });
 }
 
 void ReadStream(const uint8_t* data, size_t size) {
-  if (size < 5) return;
-  uint32_t version = 0;
-  std::memcpy(&version, data, 4);
-  const uint8_t op = data[4];
-  CFFArchive a;
-  a.FromData(data + 5, static_cast<uint32_t>(size - 5));
+  mapcfg_fuzz::StreamInput input;
+  if (!input.Parse(data, size)) return;
+  auto& [version, op, a] = input;
   switch (op % 6) {
-    case 0: {
-      _PlaneShapeTempl r{};
-      a.GetPlaneShapeTempl(&r, version);
-      RecordRoundTrip(r, &CFFArchive::PutPlaneShapeTempl, &CFFArchive::GetPlaneShapeTempl);
-      break;
-    }
-    case 1: {
-      _NoDiviType r{};
-      a.GetNoDiviType(&r, version);
-      RecordRoundTrip(r, &CFFArchive::PutNoDiviType, &CFFArchive::GetNoDiviType);
-      break;
-    }
-    case 2: {
-      _MigraTempl r;
-      a.GetMigraTempl(&r, version);
-      RecordRoundTrip(r, &CFFArchive::PutMigraTempl, &CFFArchive::GetMigraTempl);
-      break;
-    }
-    case 3: {
-      _MigraItem r;
-      a.GetMigraItem(&r, version);
-      RecordRoundTrip(r, &CFFArchive::PutMigraItem, &CFFArchive::GetMigraItem);
-      break;
-    }
-    case 4:
-      (void)sCfgReadPlaneShapes(a, version);
-      TablesRoundTrip();
-      break;
-    default:
-      (void)sCfgReadDataMigrate(a, version);
-      TablesRoundTrip();
-      break;
+    case 0: { _PlaneShapeTempl r{}; a.GetPlaneShapeTempl(&r, version); Stable(r, &CFFArchive::PutPlaneShapeTempl, &CFFArchive::GetPlaneShapeTempl); break; }
+    case 1: { _NoDiviType r{}; a.GetNoDiviType(&r, version); Stable(r, &CFFArchive::PutNoDiviType, &CFFArchive::GetNoDiviType); break; }
+    case 2: { _MigraTempl r; a.GetMigraTempl(&r, version); Stable(r, &CFFArchive::PutMigraTempl, &CFFArchive::GetMigraTempl); break; }
+    case 3: { _MigraItem r; a.GetMigraItem(&r, version); Stable(r, &CFFArchive::PutMigraItem, &CFFArchive::GetMigraItem); break; }
+    case 4: (void)sCfgReadPlaneShapes(a, version); TablesRoundTrip(); break;
+    default: (void)sCfgReadDataMigrate(a, version); TablesRoundTrip(); break;
   }
 }
 
@@ -115,9 +56,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     ReadStream(data + 1, size - 1);
     return 0;
   }
-  *sGetCfgLang() = static_cast<char>(data[0] & 1);
   CCfgScript script;
-  script.Open(mapcfg_fuzz::WriteScratch("templates.cfg", data + 1, size - 1).c_str(), 0);
+  mapcfg_fuzz::OpenScript(script, data, size, "templates.cfg");
   sCfgReadPlaneShapes(script);
   sCfgReadDataMigrate(script);
   TablesRoundTrip();

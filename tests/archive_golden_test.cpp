@@ -165,10 +165,6 @@ const LINE_PROP kLineStart{7, -7.0f, "start"};
 const PATT_PROP kPattStart{7, 7, -7.0f, "start"};
 const FONT_PROP kFontStart{7, -7.0f, -7.0f, -7.0f, -7, 7, {7, 7, 7, 7, 7, 7, 7}, "start"};
 const _SysCfgParam kSysStart{-7.0, 7, 7, {"old"}, {9.0}, {"o"}, {"old"}, {9.0}, {"o"}};
-Form SysParam(uint32_t version) {
-  return Rec(kSysStart, [=](CFFArchive& a, _SysCfgParam& v) { return a.GetSysCfgParam(&v, version); },
-             [](CFFArchive& a, const _SysCfgParam& v) { a.PutSysCfgParam(&v); });
-}
 const _PMTAutoParm kPMTAutoStart{7, 7, {-7, -7}, {-7, -7}, 7, -7, -7, 7, 7, -7, "start"};
 const _PMTMapProp kPMTMapStart{7,          7,          7,          -7,         -7,         -7,         -7,
                                "start",    "start",    "start",    -7,         kPattStart, kPattStart, kLineStart,
@@ -176,28 +172,11 @@ const _PMTMapProp kPMTMapStart{7,          7,          7,          -7,         -
 const _PMTBodyProp kPMTBodyStart{7,  -7, -7, -7, -7, -7, -7, -7, -7, -7,         -7,        -7,
                                  -7, -7, -7, 7,  7,  kLineStart, kFontStart, -7};
 const _PMTLableProp kPMTLabelStart{-7, -7, -7, -7, kLineStart, -7, kFontStart, -7};
-// A section map record by pointer, read with `version`.
+// A record by pointer, read with `version`.
 template <class T>
 Form Section(T start, int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*put)(const T*), uint32_t version) {
   return Rec(start, [=](CFFArchive& a, T& v) { return (a.*get)(&v, version); },
              [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
-}
-// A map record read with `version` into a zeroed target.
-template <class T>
-Form MapRecord(int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*put)(const T*), uint32_t version) {
-  return Rec(T{}, [=](CFFArchive& a, T& v) { return (a.*get)(&v, version); },
-             [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
-}
-// Curve parameters appended to an empty array, each record in brackets.
-Form CurveParms(uint32_t version) {
-  return [=](CFFArchive& in, CFFArchive* out) {
-    RecordArray<_CurveParm> parms;
-    const int ok = in.GetCurveParmArray(parms, version);
-    if (out) out->PutCurveParmArray(parms);
-    std::string s = Text(ok);
-    for (const std::unique_ptr<_CurveParm>& r : parms) s += "[" + Fields(*r).substr(1) + "]";
-    return s;
-  };
 }
 // A migration template (not copyable, so no start value) read with `version`
 // into a fresh one.
@@ -211,11 +190,6 @@ Form MigraTempl(uint32_t version) {
 }
 const _OldProdProp kProdStart{7, 7, 7, 7, 7, 7, kLineStart, kPattStart, kPattStart, kPattStart, kFontStart};
 const _OldTestProp kTestStart{7, 7, 7, kLineStart, kPattStart, kPattStart, kFontStart};
-template <class T>
-Form Display(T start, int (CFFArchive::*get)(T*, uint32_t), int (CFFArchive::*put)(const T*), uint32_t version) {
-  return Rec(start, [=](CFFArchive& a, T& v) { return (a.*get)(&v, version); },
-             [=](CFFArchive& a, const T& v) { (a.*put)(&v); });
-}
 const _JWTAutoParm kAutoStart{7, "start", -7.0f, 7, "start", 7, 7};
 const _JWTMapProp kMapStart{-7.0f, -7.0f, -7.0f, -7.0f, -7.0f};
 const _DJTMapProp kDJTMapStart{-7, -7, -7, "start", "start", "start"};
@@ -231,18 +205,15 @@ std::string TrackText(const _DJTTrack& t) {
   for (const std::unique_ptr<_DJTTrack>& k : t.Children) s += TrackText(*k) + (k == t.Children.back() ? "" : ",");
   return s + "}";
 }
-std::string TracksText(const RecordArray<_DJTTrack>& tracks) {
-  std::string s;
-  for (const std::unique_ptr<_DJTTrack>& t : tracks) s += "[" + TrackText(*t) + "]";
-  return s;
-}
 std::string TemplText(const _DJTTempl& t) {
   std::string s = Join(t.Name, t.Value) + "," + Join(t.Dbls[0], t.Dbls[1], t.Dbls[2], t.Dbls[3], t.Dbls[4]) +
                   Fields(t.Line) + Fields(t.Font);
   for (const String& text : t.Texts) s += "," + Text(text);
-  return s + "," + TracksText(t.Tracks);
+  s += ",";
+  for (const std::unique_ptr<_DJTTrack>& k : t.Tracks) s += "[" + TrackText(*k) + "]";
+  return s;
 }
-// Tracks and templates read with `version` into empty records.
+// A track read with `version` into an empty one.
 Form DJTTrack(uint32_t version) {
   return [=](CFFArchive& in, CFFArchive* out) {
     _DJTTrack t;
@@ -251,21 +222,23 @@ Form DJTTrack(uint32_t version) {
     return Text(ok) + "," + TrackText(t);
   };
 }
-Form DJTTracks(uint32_t version) {
-  return [=](CFFArchive& in, CFFArchive* out) {
-    RecordArray<_DJTTrack> tracks;
-    const int ok = in.GetDJTTrackArray(tracks, version);
-    if (out) out->PutDJTTrackArray(tracks);
-    return Text(ok) + TracksText(tracks);
-  };
+// Records appended by a versioned reader to an empty array, each in
+// brackets.
+template <class T>
+std::string Item(const T& r) {
+  return Fields(r).substr(1);
 }
-Form DJTTempls(uint32_t version) {
+std::string Item(const _DJTTrack& t) { return TrackText(t); }
+std::string Item(const _DJTTempl& t) { return TemplText(t); }
+template <class T>
+Form Rows(int (CFFArchive::*get)(RecordArray<T>&, uint32_t), int (CFFArchive::*put)(const RecordArray<T>&),
+          uint32_t version) {
   return [=](CFFArchive& in, CFFArchive* out) {
-    RecordArray<_DJTTempl> templs;
-    const int ok = in.GetDJTTemplArray(templs, version);
-    if (out) out->PutDJTTemplArray(templs);
+    RecordArray<T> records;
+    const int ok = (in.*get)(records, version);
+    if (out) (out->*put)(records);
     std::string s = Text(ok);
-    for (const std::unique_ptr<_DJTTempl>& t : templs) s += "[" + TemplText(*t) + "]";
+    for (const std::unique_ptr<T>& r : records) s += "[" + Item(*r) + "]";
     return s;
   };
 }
@@ -273,8 +246,8 @@ const _StatusProp kStatusStart{"start", 7, -7, 7};
 const _IntepretProp kInterpretStart{"start", -7, "start", 7, "start", -7, "start", 7};
 const _LithProp kLithStart{"start", -7.0, "start", "start", 7, -7};
 
-// A statistics registry record read into a fresh record, and its array
-// form (each record in brackets).
+// A statistics registry record read into a fresh record (they do not copy),
+// and its array form (each record in brackets).
 template <class T>
 Form Registry(int (CFFArchive::*get)(T*), int (CFFArchive::*put)(const T*)) {
   return [=](CFFArchive& in, CFFArchive* out) {
@@ -340,14 +313,14 @@ const std::map<std::string, Form> kForms = {
     {"patt_old", Attribute(kPattStart, &CFFArchive::GetPattProp, &CFFArchive::PutPattProp, 0x02007343)},
     {"fontprop", Rec(kFontStart, [](CFFArchive& a, FONT_PROP& v) { return a.GetFontProp(v); },
                      [](CFFArchive& a, const FONT_PROP& v) { a.PutFontProp(v); })},
-    {"sysparam", SysParam(0x03012067)},
-    {"sysparam_old", SysParam(0x03012066)},
+    {"sysparam", Section(kSysStart, &CFFArchive::GetSysCfgParam, &CFFArchive::PutSysCfgParam, 0x03012067)},
+    {"sysparam_old", Section(kSysStart, &CFFArchive::GetSysCfgParam, &CFFArchive::PutSysCfgParam, 0x03012066)},
     {"status", Catalog(kStatusStart, &CFFArchive::GetStatusProp, &CFFArchive::PutStatusProp)},
     {"interpret", Catalog(kInterpretStart, &CFFArchive::GetInterpretProp, &CFFArchive::PutInterpretProp)},
     {"lith", Catalog(kLithStart, &CFFArchive::GetLithProp, &CFFArchive::PutLithProp)},
-    {"oldprod", Display(kProdStart, &CFFArchive::GetOldProdProp, &CFFArchive::PutOldProdProp, 0x02017519)},
-    {"oldprod_old", Display(kProdStart, &CFFArchive::GetOldProdProp, &CFFArchive::PutOldProdProp, 0x02007343)},
-    {"oldtest", Display(kTestStart, &CFFArchive::GetOldTestProp, &CFFArchive::PutOldTestProp, 0x02017519)},
+    {"oldprod", Section(kProdStart, &CFFArchive::GetOldProdProp, &CFFArchive::PutOldProdProp, 0x02017519)},
+    {"oldprod_old", Section(kProdStart, &CFFArchive::GetOldProdProp, &CFFArchive::PutOldProdProp, 0x02007343)},
+    {"oldtest", Section(kTestStart, &CFFArchive::GetOldTestProp, &CFFArchive::PutOldTestProp, 0x02017519)},
     {"jwtauto", Catalog(kAutoStart, &CFFArchive::GetJWTAutoParm, &CFFArchive::PutJWTAutoParm)},
     {"jwtmap", Catalog(kMapStart, &CFFArchive::GetJWTMapProp, &CFFArchive::PutJWTMapProp)},
     {"liths", CatalogRows(&CFFArchive::GetLithPropArray, &CFFArchive::PutLithPropArray)},
@@ -357,16 +330,16 @@ const std::map<std::string, Form> kForms = {
     {"pmtbody", Section(kPMTBodyStart, &CFFArchive::GetPMTBodyProp, &CFFArchive::PutPMTBodyProp, 0x02017519)},
     {"pmtbody_old", Section(kPMTBodyStart, &CFFArchive::GetPMTBodyProp, &CFFArchive::PutPMTBodyProp, 0x02017518)},
     {"pmtlabel", Section(kPMTLabelStart, &CFFArchive::GetPMTLabelProp, &CFFArchive::PutPMTLabelProp, 0x02017519)},
-    {"layers", MapRecord(&CFFArchive::GetLayersProp, &CFFArchive::PutLayersProp, kMapRecordsVersion1)},
-    {"frame", MapRecord(&CFFArchive::GetMapFrameProp, &CFFArchive::PutMapFrameProp, kMapRecordsVersion1)},
-    {"legend", MapRecord(&CFFArchive::GetLegendProp, &CFFArchive::PutLegendProp, kMapRecordsVersion1)},
-    {"scale", MapRecord(&CFFArchive::GetScaleProp, &CFFArchive::PutScaleProp, kMapRecordsVersion1)},
-    {"curves", CurveParms(kMapRecordsVersion1)},
-    {"curves_old", CurveParms(0x02007343)},
-    {"shapetempl", MapRecord(&CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, kShapeTemplsVersion1)},
-    {"shapetempl_old", MapRecord(&CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, 0x02007343)},
-    {"nodivi", MapRecord(&CFFArchive::GetNoDiviType, &CFFArchive::PutNoDiviType, kShapeTemplsVersion1)},
-    {"migraitem", MapRecord(&CFFArchive::GetMigraItem, &CFFArchive::PutMigraItem, kShapeTemplsVersion1)},
+    {"layers", Section(_LayersProp{}, &CFFArchive::GetLayersProp, &CFFArchive::PutLayersProp, kMapRecordsVersion1)},
+    {"frame", Section(_MapFrameProp{}, &CFFArchive::GetMapFrameProp, &CFFArchive::PutMapFrameProp, kMapRecordsVersion1)},
+    {"legend", Section(_LegendProp{}, &CFFArchive::GetLegendProp, &CFFArchive::PutLegendProp, kMapRecordsVersion1)},
+    {"scale", Section(_ScaleProp{}, &CFFArchive::GetScaleProp, &CFFArchive::PutScaleProp, kMapRecordsVersion1)},
+    {"curves", Rows(&CFFArchive::GetCurveParmArray, &CFFArchive::PutCurveParmArray, kMapRecordsVersion1)},
+    {"curves_old", Rows(&CFFArchive::GetCurveParmArray, &CFFArchive::PutCurveParmArray, 0x02007343)},
+    {"shapetempl", Section(_PlaneShapeTempl{}, &CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, kShapeTemplsVersion1)},
+    {"shapetempl_old", Section(_PlaneShapeTempl{}, &CFFArchive::GetPlaneShapeTempl, &CFFArchive::PutPlaneShapeTempl, 0x02007343)},
+    {"nodivi", Section(_NoDiviType{}, &CFFArchive::GetNoDiviType, &CFFArchive::PutNoDiviType, kShapeTemplsVersion1)},
+    {"migraitem", Section(_MigraItem{}, &CFFArchive::GetMigraItem, &CFFArchive::PutMigraItem, kShapeTemplsVersion1)},
     {"migratempl", MigraTempl(kShapeTemplsVersion1)},
     {"statmember", Registry(&CFFArchive::GetStatMember, &CFFArchive::PutStatMember)},
     {"statmeta", Registry(&CFFArchive::GetStatMetal, &CFFArchive::PutStatMetal)},
@@ -378,9 +351,9 @@ const std::map<std::string, Form> kForms = {
     {"djtprop", Section(kTrackPropStart, &CFFArchive::GetDJTTrackProp, &CFFArchive::PutDJTTrackProp, 0x02017519)},
     {"djtprop_old", Section(kTrackPropStart, &CFFArchive::GetDJTTrackProp, &CFFArchive::PutDJTTrackProp, 0x02017518)},
     {"djttrack", DJTTrack(kMapRecordsVersion1)},
-    {"djttracks", DJTTracks(kMapRecordsVersion1)},
-    {"djttempls", DJTTempls(kMapRecordsVersion1)},
-    {"djttempls_old", DJTTempls(0x02017518)},
+    {"djttracks", Rows(&CFFArchive::GetDJTTrackArray, &CFFArchive::PutDJTTrackArray, kMapRecordsVersion1)},
+    {"djttempls", Rows(&CFFArchive::GetDJTTemplArray, &CFFArchive::PutDJTTemplArray, kMapRecordsVersion1)},
+    {"djttempls_old", Rows(&CFFArchive::GetDJTTemplArray, &CFFArchive::PutDJTTemplArray, 0x02017518)},
 };
 
 // True when exactly `n` bytes of the stream have been read.

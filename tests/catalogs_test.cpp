@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -36,10 +37,7 @@ void Read(const std::string& text, std::initializer_list<void (*)(CCfgScript&)> 
 // The field texts of a record joined by ",", of records by "|".
 template <class R>
 std::string Described(const R* r) {
-  if (!r) return "null";
-  std::string s;
-  for (const FieldText& f : sDescribe(*r)) s += "," + f.value;
-  return s.erase(0, 1);
+  return r ? mapcfg_test::Values(*r) : "null";
 }
 template <class R>
 std::string Described(const RecordArray<R>& records) {

@@ -8,9 +8,11 @@
 #include <string>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
+using mapcfg_test::Lines;
 
 namespace {
 
@@ -29,13 +31,6 @@ String Named(std::string english, char lang) {
   return english;
 }
 
-// The fields of `fields` as "name=value", one a line.
-std::string Lines(const FieldTexts& fields) {
-  std::string s;
-  for (const FieldText& f : fields) s += f.name + "=" + f.value + "\n";
-  return s;
-}
-
 // The tables read from `script` (in language `lang`) by `read`, as `describe`
 // lists them.
 std::string ReadTable(const String& script, char lang, void (*read)(CCfgScript&), FieldTexts (*describe)()) {
@@ -46,6 +41,12 @@ std::string ReadTable(const String& script, char lang, void (*read)(CCfgScript&)
   sCfgClearPlate();
   read(s);
   return Lines(describe());
+}
+
+// Both tables read from one script.
+void ReadBoth(CCfgScript& script) {
+  sCfgReadPlaneShapes(script);
+  sCfgReadDataMigrate(script);
 }
 
 // A template's fields as the stream lists them, from Name to TipPatt.name.
@@ -199,11 +200,7 @@ TEST(PlateTemplates, ClearPlateEmptiesAndCopiesStandAlone) {
       "Config: Pinch-out\nBegin\nUpPinch-outTemplate = T\nEnd\nConfig: T\nBegin\ntip = 1; 2; Dash\nEnd\n"
       "Config: Division\nBegin\nNoBoundDiviType = A; 1\nEnd\n"
       "Config: Data_Migrate\nBegin\nOut = A: B\nEnd\nConfig: Data_Immigrate\nBegin\nIn = C\nEnd\n";
-  ReadTable(script, 0, sCfgReadPlaneShapes, sDescribePlaneShapes);
-  mapcfg_test::TempDir dir;
-  CCfgScript s;
-  s.Open(dir.Write("c.cfg", script).c_str(), 0);
-  sCfgReadDataMigrate(s);
+  ReadTable(script, 0, ReadBoth, sDescribePlaneShapes);
   ASSERT_EQ(sCfgGetPlaneShapeTemplPtr(kUpPinchOut)->Name, "T");
   ASSERT_EQ(sCfgGetNoDiviTypesPtr()->size(), 1u);
   ASSERT_EQ(sCfgGetImmigraTemplsPtr()->size(), 1u);
@@ -238,11 +235,7 @@ TEST(PlateTemplates, StreamsRoundTripAndOlderArchivesHoldNone) {
       "Config: Division\nBegin\nNoBoundDiviType = A; 1; Mud\nNoBoundDiviType = B\nEnd\n"
       "Config: Data_Migrate\nBegin\nOut = A: B; C\nOut|DIP Parameter = 0WELL_ID; 1MD\nEnd\n"
       "Config: Data_Immigrate\nBegin\nIn = C\nIn|Main key Parallelism = C\nIn2 = D\nEnd\n";
-  const std::string shapes = ReadTable(script, 0, sCfgReadPlaneShapes, sDescribePlaneShapes);
-  mapcfg_test::TempDir dir;
-  CCfgScript s;
-  s.Open(dir.Write("s.cfg", script).c_str(), 0);
-  sCfgReadDataMigrate(s);
+  const std::string shapes = ReadTable(script, 0, ReadBoth, sDescribePlaneShapes);
   const std::string migra = Lines(sDescribeDataMigrate());
 
   CFFArchive a;

@@ -9,6 +9,7 @@
 #include <sstream>
 #include <string>
 
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -38,69 +39,11 @@ std::map<std::string, std::string> KindFields(const String& kind) {
 TEST(SectionMaps, ReadersTakeEachKeyWithItsScanDefaultAndClamp) {
   mapcfg_test::StoreGuard guard;
   mapcfg_test::TempDir dir;
-  struct Case {
-    int key;            // row of the key's name; -1 for an empty block
-    const char* value;  // the key's value
-    const char* want;   // "field=text" pairs separated by ";"
-  };
-  const Case cases[] = {
-      // An empty block: the defaults; what the readers reset goes, the
-      // points are not theirs.
-      {-1, "",
-       "auto.flag0=0;auto.Text=;auto.Point1.x=1;auto.FixedSpace=0;auto.FixedSpaceNegative=0;map.HoleAxialLine=0;"
-       "map.Rlev=0.125;map.EffectiveVal1=-999.25;map.EffectiveVal2=-999.25;map.LeastInterlayer=0.1;"
-       "map.FmtGroundPatt.backColor=0xFFFFFF;map.FmtGroundPatt.ratio=2.5;map.SublayerPatt.ratio=2.5;"
-       "map.FmtTLine.width=0;map.InteBLine.width=0;map.InteBLine.style=;map.PerforationSymbol=;"
-       "body.HoleBorder.color=0x000000;body.HoleBorder.style=;body.HoleBorder.width=0;body.WNameFont.height=16;"
-       "body.WNameFont.weight=400;body.Reserved=0;label.RulerLineOffset=10;label.RulerScaleSpace=10;"
-       "label.RulerLine.width=1;label.RulerLine.color=0x000000;label.RulerMarkWidth=0.25;"
-       "label.RulerFmtFont.height=0;label.RulerFmtFont.charSet=134;model=0;fault.color=0x000000;fault.style=;"
-       "fault.width=0;divi.width=0"},
-      // The spacing's sign is a flag of its own.
-      {74, "-30", "auto.FixedSpace=30;auto.FixedSpaceNegative=1"},
-      {74, "0", "auto.FixedSpace=0;auto.FixedSpaceNegative=0"},
-      {74, "12.5", "auto.FixedSpace=12.5;auto.FixedSpaceNegative=0"},
-      {73, "1f", "auto.AutoCreateFlags=0x00001F"},
-      {70, "257", "auto.FlattenByElev=1"},  // bytes keep the low bits
-      {71, "abc", "auto.TopVD=0"},
-      // A switch is on for any text but "0".
-      {68, "00", "map.HoleAxialLine=1"},
-      {68, "0", "map.HoleAxialLine=0"},
-      {93, "1", "map.SublayerFillLith=1"},
-      // An unreadable value is 0, not the default of a missing one.
-      {67, "abc", "map.Rlev=0"},
-      {137, "-1.5", "map.EffectiveVal1=-1.5;map.EffectiveVal2=-999.25"},
-      {100, "0", "map.LeastInterlayer=0.1"},
-      {100, "-1", "map.LeastInterlayer=0.1"},
-      {100, "0.5", "map.LeastInterlayer=0.5"},
-      {94, "-2", "map.FmtTLine.width=0"},
-      {94, "0.3", "map.FmtTLine.width=0.3;map.FmtBLine.width=0"},
-      {92, "ff00", "map.FmtGroundPatt.backColor=0x00FF00;map.SublayerPatt.backColor=0xFFFFFF"},
-      {10, "Shot A", "map.PerforationSymbol=Shot A;map.PerforationPlug="},
-      {344, "Open", "map.PerforationUnplug=Open"},
-      {22, "-2", "body.WNameFont.height=16"},
-      {22, "12", "body.WNameFont.height=12"},
-      {90, "3", "body.BeforeGridNumber=3"},
-      {83, "0.3", "body.HoleBorder.width=0.3"},
-      {80, "1.25", "body.HoleWidth=1.25"},
-      {145, "0", "label.RulerScaleSpace=10"},
-      {145, "-5", "label.RulerScaleSpace=-5"},
-      {143, "abc", "label.RulerLineOffset=0"},
-      {146, "2", "label.RulerLine.width=2"},
-      {147, "0", "label.RulerMarkWidth=0"},
-      {148, "14", "label.RulerFmtFont.height=14"},
-      // Model flags are hexadecimal behind a "0x" of their own.
-      {104, "11", "model=17"},
-      {104, "0x11", "model=17"},
-      {104, "ff", "model=-1"},
-      {104, "-1", "model=0"},
-      {107, "0.7", "fault.width=0.7;divi.width=0"},
-      {105, "0.4", "divi.width=0.4;fault.width=0"},
-  };
   for (const char lang : {0, 1}) {
     const String kind = sGetCfgStr(lang, kProfileMap);
-    for (const Case& c : cases) {
-      const std::string row = c.key < 0 ? "" : sGetCfgStr(lang, c.key) + " = " + c.value + "\n";
+    for (const std::vector<std::string>& c : mapcfg_test::ReadRows("section_keys.txt")) {
+      const int key = std::stoi(c.at(0));
+      const std::string row = key < 0 ? "" : sGetCfgStr(lang, key) + " = " + c.at(1) + "\n";
       SCOPED_TRACE(row + " in language " + std::to_string(lang));
       CCfgScript script;
       script.Open(dir.Write("section.cfg", "Config: " + kind + "\nBegin\n" + row + "End\n").c_str(), 0);
@@ -121,7 +64,7 @@ TEST(SectionMaps, ReadersTakeEachKeyWithItsScanDefaultAndClamp) {
       sCfgReadPMTFaultProp(script, kind, sCfgGetPMTFaultPropPtr(kind));
       sCfgReadPMTDiviProp(script, kind, sCfgGetPMTDiviPropPtr(kind));
       const std::map<std::string, std::string> fields = KindFields(kind);
-      std::istringstream want(c.want);
+      std::istringstream want(c.at(2));
       for (std::string pair; std::getline(want, pair, ';');) {
         const std::string name = pair.substr(0, pair.find('='));
         ASSERT_EQ(fields.count(name), 1u) << name;

@@ -10,11 +10,13 @@
 #include <functional>
 #include <map>
 #include <random>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -68,48 +70,24 @@ std::pair<size_t, int> Size(const _DJTTrack& t) {
 
 TEST(SingleWell, TrackValuePositionsClampsAndLineBreaks) {
   mapcfg_test::StoreGuard guard;
-  const std::string face40(40, 'F'), style50(50, 'S');
-  // value, then field = expected text; fields not named keep the defaults
-  // that the first row shows.
-  const struct {
-    std::string value;
-    std::vector<std::pair<std::string, std::string>> want;
-  } kCases[] = {
-      {"GR, Gamma ray, 0, 150, 30, 1f, 50, 2, 7, Dash, 0.5, ff, , 0.25, 0, Arial, 3, 80, SimSun, 2.5, ff00, 1.5, "
-       "4, 60, -9, Dot, 0.1, 00ff00",
-       {{"Name", "GR"}, {"Title", "Gamma ray"}, {"Left", "0"}, {"Right", "150"}, {"Width", "30"}, {"Flags", "31"},
-        {"Int1", "50"}, {"Int2", "2"}, {"Int3", "7"}, {"Int4", "60"}, {"Int5", "-9"}, {"Line1.style", "Dash"},
-        {"Line1.width", "0.5"}, {"Line1.color", "0x0000FF"}, {"Line2.style", ""}, {"Line2.width", "0.25"},
-        {"Line3.style", "Dot"}, {"Line3.color", "0x00FF00"}, {"Font1.faceName", "Arial"}, {"Font1.height", "3"},
-        {"Font1.color", "0x000080"}, {"Font1.weight", "400"}, {"Font2.faceName", "SimSun"},
-        {"Font2.height", "2.5"}, {"Font2.color", "0x00FF00"}, {"Font2.fWidth", "1.5"},
-        {"Font3.faceName", "SimSun"}, {"Font3.height", "4"}, {"Font3.color", "0x000000"}, {"Dbl1", "0"}}},
-      // equal edges: Right one more, the missing width Right - Left
-      {"A, B, 10, 10", {{"Right", "11"}, {"Width", "1"}, {"Int2", "1"}, {"Line1.width", "0"}, {"Font1.height", "0"}}},
-      {"A, , 10, 10.0000004", {{"Right", "11.0000004"}}},
-      {"A, , 10, 10.000001", {{"Right", "10.000001"}}},
-      {"A, , 2, 7, 0", {{"Width", "5"}}},
-      {"A, , 7, 2, -3", {{"Width", "-5"}}},
-      // the numbers' clamps
-      {"A,,0,1,1,1ff,250,0,0,,,,,,,,,,,,,,,300", {{"Flags", "255"}, {"Int1", "100"}, {"Int2", "1"}, {"Int4", "100"}}},
-      {"A,,0,1,1,0,-5,9,0,,,,,,,,,,,,,,,-300", {{"Int1", "-5"}, {"Int2", "5"}, {"Int4", "-300"}}},
-      // written line breaks, the longer form first
-      {"Deep\\nlog, RT\\r\\nohm.m, 1, 100", {{"Name", "Deep\r\nlog"}, {"Title", "RT\r\nohm.m"}}},
-      {"a\\r\\n, \\\\n", {{"Name", "a\r\n"}, {"Title", "\\\r\n"}}},
-      // names cut to their fields; Font3 takes Font2's face
-      {"A,,0,1,1,0,0,0,0," + style50 + ",,,,,," + face40 + ",,," + face40,
-       {{"Line1.style", std::string(39, 'S')}, {"Font1.faceName", std::string(31, 'F')},
-        {"Font3.faceName", std::string(31, 'F')}}},
-      {"", {{"Name", ""}, {"Right", "1"}, {"Width", "1"}, {"Font1.faceName", ""}}},
+  const auto unescaped = [](const std::string& text) {
+    std::string s;
+    for (size_t i = 0; i < text.size(); ++i)
+      s += text[i] != '\\' || ++i == text.size() ? text[i] : text[i] == 'r' ? '\r' : text[i] == 'n' ? '\n' : text[i];
+    return s;
   };
-  for (const auto& c : kCases) {
-    SCOPED_TRACE(c.value);
+  const auto cases = mapcfg_test::ReadRows("track_values.txt");
+  ASSERT_EQ(cases.size(), 12u);
+  for (const std::vector<std::string>& c : cases) {
+    SCOPED_TRACE(c.at(0));
     _DJTTrack track;
     track.Prop.Dbl1 = 0;
     CCfgScript none;
-    sCfgReadDJTTrack(none, "no block", c.value, &track, 1.0f);
+    sCfgReadDJTTrack(none, "no block", c.at(0), &track, 1.0f);
     const auto fields = Named(sDescribe(track.Prop));
-    for (const auto& [name, value] : c.want) EXPECT_EQ(fields.at(name), value) << name;
+    std::istringstream want(unescaped(c.at(1)));
+    for (std::string pair; std::getline(want, pair, ';');)
+      EXPECT_EQ(fields.at(pair.substr(0, pair.find('='))), pair.substr(pair.find('=') + 1)) << pair;
     EXPECT_TRUE(track.Curves.empty() && track.Children.empty());
   }
 }
@@ -367,9 +345,7 @@ TEST(SingleWell, SeededRandomTreesRoundTripFieldByField) {
     CFFArchive in;
     RecordArray<_DJTTempl> back;
     ASSERT_EQ(mapcfg_test::Loaded(in, bytes).GetDJTTemplArray(back, 0xFFFFFFFFu), 1);
-    const FieldTexts want = Flat(templs), got = Flat(back);
-    ASSERT_EQ(got.size(), want.size());
-    for (size_t f = 0; f < want.size(); ++f) ASSERT_EQ(got[f].name + "=" + got[f].value, want[f].name + "=" + want[f].value);
+    ASSERT_EQ(mapcfg_test::Lines(Flat(back)), mapcfg_test::Lines(Flat(templs)));
     CFFArchive again;
     again.PutDJTTemplArray(back);
     EXPECT_EQ(mapcfg_test::Bytes(again), bytes);
@@ -405,13 +381,11 @@ TEST(SingleWell, StreamAndTheNestingLimit) {
   CFFArchive a;
   ASSERT_EQ(sCfgWriteMapSingle(a), "");
   const std::string bytes = mapcfg_test::Bytes(a);
-  const FieldTexts written = sDescribeMapKind("Single Well Map");
+  const std::string written = mapcfg_test::Lines(sDescribeMapKind("Single Well Map"));
   sCfgClearPlate();
   CFFArchive in;
   ASSERT_EQ(sCfgReadMapSingle(mapcfg_test::Loaded(in, bytes), 0xFFFFFFFFu), "");
-  const FieldTexts read = sDescribeMapKind("Single Well Map");
-  ASSERT_EQ(read.size(), written.size());
-  for (size_t f = 0; f < read.size(); ++f) EXPECT_EQ(read[f].name + "=" + read[f].value, written[f].name + "=" + written[f].value);
+  EXPECT_EQ(mapcfg_test::Lines(sDescribeMapKind("Single Well Map")), written);
   EXPECT_EQ(Size(*registry.Templs[0]->Tracks[0]).second, kMaxTrackDepth);
 
   // One level more: nothing is written; a stream that holds one fails.

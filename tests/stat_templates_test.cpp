@@ -13,6 +13,7 @@
 #include <tuple>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -23,45 +24,11 @@ namespace {
 
 const String kWrongFormat = "\xCD\xB3\xBC\xC6\xCD\xBC\xB8\xF1\xCA\xBD\xB2\xBB\xB6\xD4";
 
-// Field-by-field comparison, independent of the record layer.
-void ExpectSame(const _CfgStatMeta& a, const _CfgStatMeta& b, const std::string& at) {
-  SCOPED_TRACE(at);
-  EXPECT_EQ(a.name, b.name);
-  EXPECT_EQ(a.type, b.type);
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(a.dbls[i], b.dbls[i]);
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(a.bytes[i], b.bytes[i]);
-  EXPECT_EQ(a.ints, b.ints);
-  EXPECT_EQ(a.flag, b.flag);
-  EXPECT_EQ(a.byte2, b.byte2);
-  EXPECT_EQ(a.dbl, b.dbl);
-  EXPECT_EQ(std::make_tuple(a.text1, a.texts, a.text2, a.text3), std::make_tuple(b.text1, b.texts, b.text2, b.text3));
-  EXPECT_EQ(std::make_tuple(a.subInts, a.subTexts1, a.subTexts2, a.subTexts3, a.subDbls, a.subBytes),
-            std::make_tuple(b.subInts, b.subTexts1, b.subTexts2, b.subTexts3, b.subDbls, b.subBytes));
-  ASSERT_EQ(a.children.size(), b.children.size());
-  for (size_t i = 0; i < a.children.size(); ++i)
-    ExpectSame(*a.children[i], *b.children[i], at + ".children[" + std::to_string(i) + "]");
-}
-
-void ExpectSame(const _CfgStatTempl& a, const _CfgStatTempl& b) {
-  SCOPED_TRACE(a.name);
-  EXPECT_EQ(std::make_tuple(a.name, a.text1, a.text2, a.dbl1, a.flag, a.flagDbl, a.dbl2),
-            std::make_tuple(b.name, b.text1, b.text2, b.dbl1, b.flag, b.flagDbl, b.dbl2));
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(sCmpLineProp(&a.lines[i], &b.lines[i]), 1);
-    EXPECT_EQ(sCmpFontProp(&a.fonts[i], &b.fonts[i]), 1);
-  }
-  ASSERT_EQ(a.wheres.size(), b.wheres.size());
-  for (size_t i = 0; i < a.wheres.size(); ++i) {
-    const _CfgStatWhere &x = *a.wheres[i], &y = *b.wheres[i];
-    EXPECT_EQ(std::make_tuple(x.text1, x.code, x.text2, x.text3, x.values, x.text4, x.dbl1, x.dbl2, x.int1, x.int2, x.int3),
-              std::make_tuple(y.text1, y.code, y.text2, y.text3, y.values, y.text4, y.dbl1, y.dbl2, y.int1, y.int2, y.int3));
-  }
-  EXPECT_EQ(std::make_tuple(a.legendTexts1, a.legendBytes, a.legendTexts2),
-            std::make_tuple(b.legendTexts1, b.legendBytes, b.legendTexts2));
-  ASSERT_EQ(a.legendPatts.size(), b.legendPatts.size());
-  for (size_t i = 0; i < a.legendPatts.size(); ++i) EXPECT_EQ(sCmpPattProp(a.legendPatts[i].get(), b.legendPatts[i].get()), 1);
-  ASSERT_EQ(a.metas.size(), b.metas.size());
-  for (size_t i = 0; i < a.metas.size(); ++i) ExpectSame(*a.metas[i], *b.metas[i], "metas[" + std::to_string(i) + "]");
+// Field-by-field comparison: the describer gives every field the file
+// holds, each in its shortest exact form.
+template <class T>
+void ExpectSame(const T& a, const T& b, const std::string& at = "") {
+  EXPECT_EQ(mapcfg_test::Lines(sDescribe(a)), mapcfg_test::Lines(sDescribe(b))) << at;
 }
 
 // Every record a template owns, for telling whether two share any.

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -99,11 +100,7 @@ void FillStore(Random& r, size_t n) {
   for (int i = 0; i < 16; ++i) sCfgGetPrevColorPtr()[i] = r.Word();
 }
 
-void ClearStore() {
-  sCfgClearPlate();
-  for (StringArray* list : {sCfgGetLibNamesPtr(), sCfgGetLibDllsPtr(), sCfgGetMenuNamesPtr(), sCfgGetMenuFunsPtr()})
-    list->clear();
-}
+using mapcfg_test::EmptyStore;
 
 std::string Written() {
   CFFArchive a;
@@ -115,19 +112,14 @@ TEST(StoreStream, SeededStoresReadBackFieldByField) {
   mapcfg_test::StoreGuard guard;
   Random r(20261124u);
   for (size_t n : {0u, 1u, 2u, 7u, 40u}) {
-    ClearStore();
+    EmptyStore();
     FillStore(r, n);
-    const FieldTexts before = sDescribeMainStore();
+    const std::string before = mapcfg_test::Lines(sDescribeMainStore());
     const std::string bytes = Written();
-    ClearStore();
+    EmptyStore();
     CFFArchive a;
     EXPECT_EQ(sCfgReadMain(mapcfg_test::Loaded(a, bytes), 0xFFFFFFFFu), "") << n;
-    const FieldTexts after = sDescribeMainStore();
-    ASSERT_EQ(after.size(), before.size()) << n;
-    for (size_t i = 0; i < before.size(); ++i) {
-      EXPECT_EQ(after[i].name, before[i].name);
-      EXPECT_EQ(after[i].value, before[i].value) << after[i].name;
-    }
+    EXPECT_EQ(mapcfg_test::Lines(sDescribeMainStore()), before) << n;
     EXPECT_EQ(Written(), bytes) << n;
   }
 }
@@ -137,7 +129,7 @@ TEST(StoreStream, SeededStoresReadBackFieldByField) {
 // the tool's tests).
 TEST(StoreStream, ExampleStoreIsTheGoldenFile) {
   mapcfg_test::StoreGuard guard;
-  ClearStore();
+  EmptyStore();
   *sGetCfgLang() = 0;
   CCfgScript script;
   script.Open(MAPCFG_EXAMPLES "/en/field.cfg", 0);
@@ -151,7 +143,7 @@ TEST(StoreStream, ExampleStoreIsTheGoldenFile) {
 TEST(StoreStream, ReadingStopsAtTheFirstFailureAndKeepsWhatWasRead) {
   mapcfg_test::StoreGuard guard;
   Random r(7);
-  ClearStore();
+  EmptyStore();
   FillStore(r, 3);
   // Steps 1 to 6 only: system parameters, extension and menu lists, the
   // three catalogues, colours.
@@ -170,7 +162,7 @@ TEST(StoreStream, ReadingStopsAtTheFirstFailureAndKeepsWhatWasRead) {
   const FieldTexts full = sDescribeMainStore();
   const std::string bytes = mapcfg_test::Bytes(a);
 
-  ClearStore();
+  EmptyStore();
   CFFArchive in;
   EXPECT_EQ(sCfgReadMain(mapcfg_test::Loaded(in, bytes), 0xFFFFFFFFu), sGetInfoStr(838));
   const FieldTexts read = sDescribeMainStore();
@@ -188,14 +180,14 @@ TEST(StoreStream, ClearPlateEmptiesEveryTableWhereItStands) {
   mapcfg_test::StoreGuard guard;
   Random r(11);
   FillStore(r, 5);
-  const void* tables[] = {sCfgGetSysCfgParamPtr(), sCfgGetStatusCodesPtr(), sCfgGetStatusPropsPtr(),
-                          sCfgGetLithPropsPtr(),   sCfgGetColorsPtr(),      sCfgGetPrevColorPtr(),
-                          sCfgGetTextFmtsPtr(),    sCfgGetLabelCrvValsPtr()};
+  const auto tables = [] {
+    return std::vector<const void*>{sCfgGetSysCfgParamPtr(), sCfgGetStatusCodesPtr(), sCfgGetStatusPropsPtr(),
+                                    sCfgGetLithPropsPtr(),   sCfgGetColorsPtr(),      sCfgGetPrevColorPtr(),
+                                    sCfgGetTextFmtsPtr(),    sCfgGetLabelCrvValsPtr()};
+  };
+  const std::vector<const void*> before = tables();
   sCfgClearPlate();
-  const void* after[] = {sCfgGetSysCfgParamPtr(), sCfgGetStatusCodesPtr(), sCfgGetStatusPropsPtr(),
-                         sCfgGetLithPropsPtr(),   sCfgGetColorsPtr(),      sCfgGetPrevColorPtr(),
-                         sCfgGetTextFmtsPtr(),    sCfgGetLabelCrvValsPtr()};
-  for (size_t i = 0; i < std::size(tables); ++i) EXPECT_EQ(after[i], tables[i]) << i;
+  EXPECT_EQ(tables(), before);
   // What is left is the extension and menu lists (they belong to the host's
   // modules, not to the configuration), the empty system parameters and the
   // preset colours' zero slots.

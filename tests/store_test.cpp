@@ -17,6 +17,7 @@
 #include <utility>
 #include <vector>
 
+#include "store_test_util.h"
 #include "test_util.h"
 
 namespace {
@@ -30,23 +31,9 @@ using mapcfg::sGetHelpStr;
 using mapcfg::sGetInfoStr;
 using mapcfg::StringArray;
 using mapcfg_test::GbkToUtf8;
-using Rows = std::vector<std::vector<std::string>>;
 using namespace std::string_literals;
 
-// The tab-separated fields of the lines of a file in tests/data, without
-// the "#" comment lines (a trailing empty field is dropped).
-Rows ReadRows(const std::string& name) {
-  std::ifstream in(std::string(MAPCFG_TEST_DATA) + "/" + name, std::ios::binary);
-  EXPECT_TRUE(in.is_open()) << name;
-  Rows rows;
-  for (std::string line; std::getline(in, line);) {
-    if (line.empty() || line[0] == '#') continue;
-    std::istringstream fields(line);
-    rows.emplace_back();
-    for (std::string field; std::getline(fields, field, '\t');) rows.back().push_back(field);
-  }
-  return rows;
-}
+using mapcfg_test::ReadRows;
 
 TEST(StoreSettings, ReadRulesAndTheExactBytesWritten) {
   mapcfg_test::StoreGuard guard;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "archive_test_util.h"
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -24,11 +25,7 @@ void LoadUserSystems(uint8_t depth, uint8_t coord) {
 }
 
 // The record's values, "datum,depth,coord" and then the user systems' cells.
-std::string Text(const _SysCfgParam& p) {
-  std::string s;
-  for (const FieldText& f : sDescribe(p)) s += (s.empty() ? "" : ",") + f.value;
-  return s;
-}
+const auto& Text = mapcfg_test::Values<_SysCfgParam>;
 
 TEST(SystemParams, ScriptBlockIsReadInItsLanguageAndDropsUserSystems) {
   mapcfg_test::StoreGuard guard;

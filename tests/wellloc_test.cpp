@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "store_test_util.h"
 #include "test_util.h"
 
 using namespace mapcfg;
@@ -41,12 +42,7 @@ void ReadBlock(char lang, const Keys& keys, char read_lang) {
   sCfgReadJWTMapProp(script, sCfgGetJWTMapPropPtr());
 }
 
-template <class R>
-std::string Text(const R& r) {
-  std::string s;
-  for (const FieldText& f : sDescribe(r)) s += (s.empty() ? "" : ",") + f.value;
-  return s;
-}
+using mapcfg_test::Values;
 
 // `want` with "%" replaced by the label font's fields after its colour
 // (those of sInitFontProp) and "@" by `face`.
@@ -103,10 +99,10 @@ TEST(WellLocationMap, DisplayAndMapParametersFromTheBlockInItsLanguage) {
         // Under the other language the block is not found: every default.
         const Case& want = lang == read_lang ? c : defaults;
         const std::string face = sGetCfgStr(read_lang, kDefaultFace);
-        EXPECT_EQ(Text(*sCfgGetOldProdPropPtr()), Expand(want.prod, face));
-        EXPECT_EQ(Text(*sCfgGetOldTestPropPtr()), Expand(want.test, face));
-        EXPECT_EQ(Text(*sCfgGetJWTAutoParmPtr()), want.autoparm);
-        EXPECT_EQ(Text(*sCfgGetJWTMapPropPtr()), want.map);
+        EXPECT_EQ(Values(*sCfgGetOldProdPropPtr()), Expand(want.prod, face));
+        EXPECT_EQ(Values(*sCfgGetOldTestPropPtr()), Expand(want.test, face));
+        EXPECT_EQ(Values(*sCfgGetJWTAutoParmPtr()), want.autoparm);
+        EXPECT_EQ(Values(*sCfgGetJWTMapPropPtr()), want.map);
       }
     }
   }
@@ -118,12 +114,12 @@ TEST(WellLocationMap, ClearingResetsTheRecordsInPlace) {
   ReadBlock(1, {{kStraBase, "T2"}, {kProdLineName, "Dash"}}, 1);
   _OldProdProp* p = sCfgGetOldProdPropPtr();
   _JWTAutoParm* a = sCfgGetJWTAutoParmPtr();
-  EXPECT_EQ(Text(*a), "3,T2,0,0,,1,1");
+  EXPECT_EQ(Values(*a), "3,T2,0,0,,1,1");
   sCfgClearPlate();
   EXPECT_EQ(sCfgGetOldProdPropPtr(), p);
   EXPECT_EQ(sCfgGetJWTAutoParmPtr(), a);
-  EXPECT_EQ(Text(*p), Text(_OldProdProp{}));
-  EXPECT_EQ(Text(*a), "0,,0,0,,0,0");
+  EXPECT_EQ(Values(*p), Values(_OldProdProp{}));
+  EXPECT_EQ(Values(*a), "0,,0,0,,0,0");
 }
 
 }  // namespace
